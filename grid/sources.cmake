@@ -1,0 +1,7 @@
+# What needs no window, compiled natively too.
+set(GRID_MODEL_SOURCES)
+
+# The windows and what draws.
+set(GRID_WINDOW_SOURCES)
+list(TRANSFORM GRID_MODEL_SOURCES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
+list(TRANSFORM GRID_WINDOW_SOURCES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
