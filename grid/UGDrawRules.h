@@ -1,0 +1,21 @@
+// The rules of painting that need no device: what a border takes from a cell, where text stands, what shows.
+// All rectangles are in the coordinates of the window that is painted, in pixels.
+#pragma once
+
+#include <afx.h>
+
+// Takes the border's lines off the rectangle: on each side its widest line, or the 3D frame.
+ORVANE_API void UGShrinkByBorder(RECT *rect, int borderStyle, int frameWidth);
+
+// Thickness in pixels of the line at side 0 left, 1 top, 2 right, 3 bottom; 0 for none.
+ORVANE_API int UGBorderLine(int borderStyle, int side);
+
+// Where the text's reference point stands, and the device alignment that goes with it.
+struct UGTextPlace {
+    int x, y;       // y is the top of the text
+    int horizontal; // -1 x is the left end, 0 the middle, 1 the right end
+};
+ORVANE_API UGTextPlace UGPlaceText(const RECT &rect, int alignment, int textHeight);
+
+// True when a text of this width has to be shortened with "..." to stand in the rectangle.
+ORVANE_API bool UGNeedsEllipsis(const RECT &rect, int textWidth);

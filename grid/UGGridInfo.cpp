@@ -1,0 +1,111 @@
+#include "grid/UGGridInfo.h"
+
+namespace {
+
+constexpr int kDefaultColWidthPx = 100;
+constexpr int kDefaultRowHeightPx = 20;
+
+} // namespace
+
+CUGGridInfo::CUGGridInfo() {
+    m_cols.m_defaultSize = kDefaultColWidthPx;
+    m_rows.m_defaultSize = kDefaultRowHeightPx;
+    m_gridDefault.SetDataType(UGCELL_DATA_TEXT);
+    m_gridDefault.SetReadOnly(0);
+    m_gridDefault.SetAlignment(UG_ALIGN_LEFT);
+    m_gridDefault.SetBorder(UG_BDR_RTHIN | UG_BDR_BTHIN);
+    m_headingDefault.SetAlignment(UG_ALIGN_HCENTER | UG_ALIGN_VCENTER);
+    m_headingDefault.SetBorder(UG_BDR_RAISED);
+    m_headingDefault.SetTextColor(0);
+}
+
+void CUGGridInfo::SetDefaultColours(COLORREF text, COLORREF back, COLORREF hText, COLORREF hBack,
+                                    COLORREF heading) {
+    m_gridDefault.SetTextColor(text);
+    m_gridDefault.SetBackColor(back);
+    m_gridDefault.SetHTextColor(hText);
+    m_gridDefault.SetHBackColor(hBack);
+    m_headingDefault.SetBackColor(heading);
+}
+
+void CUGGridInfo::ResizeColumns(int count) {
+    const auto old = m_colDefaults.size();
+    const auto wanted = static_cast<size_t>(count);
+    std::vector<std::unique_ptr<CUGCell>> defaults, headings;
+    for (size_t col = old; col < wanted; ++col) {
+        defaults.push_back(std::make_unique<CUGCell>(m_gridDefault));
+        headings.push_back(std::make_unique<CUGCell>(m_cornerHeading));
+    }
+    m_colDefaults.reserve(wanted);
+    m_colHeadings.reserve(wanted);
+    m_cols.m_sizes.reserve(wanted);
+    m_colDefaults.resize(std::min(old, wanted));
+    m_colHeadings.resize(std::min(old, wanted));
+    for (size_t i = 0; i < defaults.size(); ++i) {
+        m_colDefaults.push_back(std::move(defaults[i]));
+        m_colHeadings.push_back(std::move(headings[i]));
+    }
+    m_cols.m_sizes.resize(wanted, m_cols.m_defaultSize);
+    m_cols.m_count = count;
+}
+
+void CUGGridInfo::ResizeRows(long count) {
+    if (!m_rows.m_uniform) {
+        if (count >= kIndividualRowsMax) {
+            m_rows.m_sizes = {};
+            m_rows.m_uniform = true;
+        } else {
+            m_rows.m_sizes.resize(count, m_rows.m_defaultSize);
+        }
+    }
+    m_rows.m_count = count;
+}
+
+int CUGGridInfo::SetUniformRowHeight(int flag) {
+    if (flag == 1) {
+        m_rows.m_sizes = {};
+        m_rows.m_uniform = true;
+        return GRID_SUCCESS;
+    }
+    if (m_rows.m_count > kRebuildHeightsMax)
+        return GRID_ERROR;
+    m_rows.m_sizes.assign(m_rows.m_count, m_rows.m_defaultSize);
+    m_rows.m_uniform = false;
+    return GRID_SUCCESS;
+}
+
+int CUGGridInfo::SetRowHeight(long row, int height) {
+    if (!m_rows.Contains(row) || height < 0)
+        return GRID_ERROR;
+    if (m_rows.m_uniform)
+        m_rows.m_defaultSize = height;
+    else
+        m_rows.m_sizes[row] = height;
+    return GRID_SUCCESS;
+}
+
+int CUGGridInfo::GetRowHeight(long row, int *height) const {
+    // With individual heights no range is prescribed; what lies outside has no height to tell.
+    if (!m_rows.Contains(row)) {
+        if (m_rows.m_uniform)
+            return GRID_ERROR;
+        *height = m_rows.m_defaultSize;
+        return GRID_SUCCESS;
+    }
+    *height = m_rows.SizeOf(row);
+    return GRID_SUCCESS;
+}
+
+int CUGGridInfo::SetColWidth(int col, int width) {
+    if (!m_cols.Contains(col) || width < 0)
+        return GRID_ERROR;
+    m_cols.m_sizes[col] = width;
+    return GRID_SUCCESS;
+}
+
+int CUGGridInfo::GetColWidth(int col, int *width) const {
+    if (!m_cols.Contains(col))
+        return GRID_ERROR;
+    *width = m_cols.SizeOf(col);
+    return GRID_SUCCESS;
+}
