@@ -1,0 +1,47 @@
+// CChildFrame: a child window with one open table.
+#pragma once
+
+#include <afxwin.h>
+
+#include "editorcore/EditorCore.h"
+
+class CChildFrame : public CMDIChildWnd {
+    DECLARE_DYNAMIC(CChildFrame)
+
+public:
+    bool LoadTable(const char *path);
+    void FocusTable() { m_editor.SetFocus(); }
+    CEditorCore &Editor() { return m_editor; }
+
+protected:
+    DECLARE_MESSAGE_MAP()
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnSetFocus(CWnd *old);
+    afx_msg void OnClose();
+    afx_msg LRESULT OnCommandsChanged(WPARAM, LPARAM);
+    afx_msg void OnFileClose();
+    afx_msg void OnFileSave();
+    afx_msg void OnFileSaveAs();
+    afx_msg void OnFileInformation();
+    afx_msg void OnEditUndo();
+    afx_msg void OnEditRedo();
+    afx_msg void OnEditBlank();
+    afx_msg void OnRecordAppend();
+    afx_msg void OnEnterIsTab();
+    afx_msg void OnMode(UINT id);
+    afx_msg void OnUpdateSave(CCmdUI *command);
+    afx_msg void OnUpdateUndo(CCmdUI *command);
+    afx_msg void OnUpdateRedo(CCmdUI *command);
+    afx_msg void OnUpdateChange(CCmdUI *command);
+    afx_msg void OnUpdateEnterIsTab(CCmdUI *command);
+    afx_msg void OnUpdateMode(CCmdUI *command);
+    afx_msg void OnUpdateRecordPane(CCmdUI *command);
+    afx_msg void OnUpdateFieldPane(CCmdUI *command);
+    afx_msg void OnUpdateModePane(CCmdUI *command);
+    afx_msg void OnUpdateModifiedPane(CCmdUI *command);
+
+private:
+    CEditorCore m_editor;
+    bool m_sourceWritable = true;
+};

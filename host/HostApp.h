@@ -1,0 +1,28 @@
+// CHostApp: the sample host's application object.
+#pragma once
+
+#include <afxwin.h>
+
+#include "host/HostService.h"
+
+class CHostApp : public CWinApp {
+public:
+    CHostApp();
+    BOOL InitInstance() override;
+    BOOL OpenRecentFile(LPCTSTR path) override;
+
+    CHostService &Service() { return m_service; }
+    // Opens the table in a child window of its own, or brings the one that shows it to the front.
+    bool OpenTable(const char *path);
+
+private:
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnFileOpen();
+    afx_msg void OnAbout();
+
+    CString CommandLineFile() const;
+
+    CHostService m_service;
+};
+
+CHostApp *GetHostApp();

@@ -1,0 +1,177 @@
+#include "host/HostService.h"
+
+#include <afxdlgs.h>
+
+#include "editorcore/EditorCore.h"
+#include "host/ChildFrame.h"
+#include "host/FieldListDlg.h"
+#include "host/FileInformation.h"
+#include "host/MainFrame.h"
+#include "host/sources/DbfDataSource.h"
+
+namespace {
+
+const char *const kLookupSection = "Lookup";
+constexpr UINT kCodeWidth = 5; // characters
+constexpr UINT kDescriptionWidth = 15;
+
+CString NameOf(const char *path) {
+    const char *backslash = std::strrchr(path, '\\');
+    return backslash != nullptr ? backslash + 1 : path;
+}
+
+} // namespace
+
+void CHostService::SetEditorTitle(const char *path, const char *table, CEditorCore *editor) {
+    auto *child = DYNAMIC_DOWNCAST(CChildFrame, editor->GetParent());
+    if (child == nullptr)
+        return;
+    CString title = NameOf(path);
+    if (table != nullptr)
+        title += CString(" - ") + table;
+    if (editor->IsFileModified())
+        title += " *";
+    child->SetWindowText(title);
+}
+
+// The key that leaves the table: on to the next window.
+void CHostService::OnGridHotKey() {
+    if (auto *frame = DYNAMIC_DOWNCAST(CMainFrame, AfxGetMainWnd()))
+        frame->MDINext();
+}
+
+bool CHostService::LoadXParmsSet(const char *, CMap<CString, const char *, CExecuteInfo, CExecuteInfo &> *) {
+    return false; // no sets are kept beside the files
+}
+
+void CHostService::GetAppTitle(CString &title) {
+    title = AfxGetAppName();
+}
+
+// Escape stops what takes long.
+int CHostService::CheckAbort() {
+    return (::GetAsyncKeyState(VK_ESCAPE) & 0x8000) != 0;
+}
+
+bool CHostService::MayClose(CDbfDataSource &source) {
+    CString path, text;
+    CString *out = &path;
+    int unused = 0;
+    source.GetOption(UGSRC_PATH, out, &unused);
+    text.Format("Save the changes to %s?", static_cast<const char *>(NameOf(path)));
+    switch (AfxMessageBox(text, MB_YESNOCANCEL | MB_ICONQUESTION)) {
+    case IDYES: return source.Save() == GRID_SUCCESS;
+    case IDNO: return true;
+    default: return false;
+    }
+}
+
+bool CHostService::MayOverwrite(const std::string &path) {
+    CString text;
+    text.Format("%s was changed by another program since it was opened.\n\nOverwrite it with what you have here?",
+                path.c_str());
+    return AfxMessageBox(text, MB_YESNO | MB_ICONEXCLAMATION | MB_DEFBUTTON2) == IDYES;
+}
+
+CUGDataSource *CHostService::CreateDataSource(const char *) {
+    CDbfDataSource::Hooks hooks;
+    hooks.message = [](const std::string &text) { AfxMessageBox(text.c_str(), MB_ICONEXCLAMATION); };
+    hooks.mayClose = MayClose;
+    hooks.mayOverwrite = MayOverwrite;
+    try {
+        auto *source = new CDbfDataSource(hooks);
+        source->SetRowsChangedHook([source] {
+            if (source->m_ctrl != nullptr)
+                source->m_ctrl->OnDataSourceNotify(0, 1, 0);
+        });
+        return source;
+    } catch (CMemoryException *e) {
+        e->Delete();
+        AfxMessageBox("Out of memory!", MB_ICONHAND);
+        return nullptr;
+    }
+}
+
+void CHostService::ShowFileInformation(CUGDataSource *source) {
+    CFileInformationDlg(source, AfxGetMainWnd()).DoModal();
+}
+
+bool CHostService::PromptSaveAs(CString &name, bool *useFiltered, bool filterAttached) {
+    CFileDialog dialog(FALSE, "dbf", name, OFN_HIDEREADONLY | OFN_PATHMUSTEXIST, kTableFilter, AfxGetMainWnd());
+    if (dialog.DoModal() != IDOK)
+        return false;
+    name = dialog.GetPathName();
+    if (filterAttached)
+        *useFiltered = AfxMessageBox("Save the filtered records only?", MB_YESNO | MB_ICONQUESTION) == IDYES;
+    return true;
+}
+
+bool CHostService::PromptFieldOrder(CStringArray *names) {
+    return CFieldOrderDlg(names, AfxGetMainWnd()).DoModal() == IDOK;
+}
+
+void CHostService::PromptFieldVisibility(CStringArray &names, CArray<bool, bool> &shown) {
+    CFieldVisibilityDlg(names, shown, AfxGetMainWnd()).DoModal();
+}
+
+bool CHostService::PromptXParms(CStringArray &, CStringArray &, CArray<bool, bool> &, CString, const char *,
+                                CArray<CFieldStatus, CFieldStatus &> *, CString &,
+                                CArray<CExecuteInfo *, CExecuteInfo *> &) {
+    return false;
+}
+
+// The search dialogs come with the editor that searches.
+void CHostService::ShowFindDialog(bool, CWnd *, UINT) {}
+
+void CHostService::ShowReplaceDialog(bool, CWnd *, UINT) {}
+
+void CHostService::GetDefaultFieldWidths(UINT *code, UINT *description) {
+    *code = AfxGetApp()->GetProfileInt(kLookupSection, "CodeWidth", kCodeWidth);
+    *description = AfxGetApp()->GetProfileInt(kLookupSection, "DescriptionWidth", kDescriptionWidth);
+}
+
+void CHostService::SetDefaultFieldWidths(UINT code, UINT description) {
+    AfxGetApp()->WriteProfileInt(kLookupSection, "CodeWidth", static_cast<int>(code));
+    AfxGetApp()->WriteProfileInt(kLookupSection, "DescriptionWidth", static_cast<int>(description));
+}
+
+bool CHostService::EditLookupTableProperties(bool *, bool *, bool *, bool *) {
+    return false;
+}
+
+void CHostService::GetLookupOptions(bool *validate, bool *validateOnKey, bool *resolveSubMenus,
+                                    bool *allowPartialCodes, bool *beepOnInvalid, int *invalidAction,
+                                    CString *replaceString, CString *prependString) {
+    CWinApp *app = AfxGetApp();
+    *validate = app->GetProfileInt(kLookupSection, "Validate", 1) != 0;
+    *validateOnKey = app->GetProfileInt(kLookupSection, "ValidateOnKey", 1) != 0;
+    *resolveSubMenus = app->GetProfileInt(kLookupSection, "ResolveSubMenus", 1) != 0;
+    *allowPartialCodes = app->GetProfileInt(kLookupSection, "AllowPartialCodes", 0) != 0;
+    *beepOnInvalid = app->GetProfileInt(kLookupSection, "BeepOnInvalid", 1) != 0;
+    *invalidAction = static_cast<int>(app->GetProfileInt(kLookupSection, "InvalidAction", 0));
+    *replaceString = app->GetProfileString(kLookupSection, "ReplaceString");
+    *prependString = app->GetProfileString(kLookupSection, "PrependString");
+}
+
+bool CHostService::EditLookupUserOptions(bool *, bool *, bool *, bool *, bool *, int *, CString *, CString *,
+                                         UINT *, UINT *) {
+    return false;
+}
+
+void CHostService::EditLookupAdminOptions(CLookupOptionsMgr *) {}
+
+bool CHostService::EditFilter(int, const char *) {
+    return false;
+}
+
+bool CHostService::SelectFilter(int *) {
+    return false;
+}
+
+void CHostService::DoWaitCursor(int step) {
+    AfxGetApp()->DoWaitCursor(step);
+}
+
+void CHostService::ShowMessage(const char *text) {
+    AfxMessageBox(text, MB_ICONINFORMATION);
+}

@@ -1,0 +1,120 @@
+#include "host/MainFrame.h"
+
+#include "host/ChildFrame.h"
+#include "host/HostApp.h"
+#include "host/OptionsDlg.h"
+#include "host/Resource.h"
+
+IMPLEMENT_DYNAMIC(CMainFrame, CMDIFrameWnd)
+
+BEGIN_MESSAGE_MAP(CMainFrame, CMDIFrameWnd)
+    ON_WM_CREATE()
+    ON_WM_CLOSE()
+    ON_WM_DROPFILES()
+    ON_COMMAND(ID_VIEW_OPTIONS, OnViewOptions)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_PANE_RECORD, ID_PANE_MODIFIED, OnUpdateEmptyPane)
+END_MESSAGE_MAP()
+
+namespace {
+
+const char *const kSection = "Frame";
+
+struct Pane {
+    UINT id;
+    int widthPx; // at 96 dots an inch
+};
+
+constexpr Pane kPanes[] = {
+    {ID_SEPARATOR, 0}, {ID_PANE_RECORD, 190}, {ID_PANE_FIELD, 260}, {ID_PANE_MODE, 90}, {ID_PANE_MODIFIED, 80}};
+
+} // namespace
+
+BOOL CMainFrame::PreCreateWindow(CREATESTRUCT &create) {
+    create.cx = ::GetSystemMetrics(SM_CXSCREEN) * 3 / 4;
+    create.cy = ::GetSystemMetrics(SM_CYSCREEN) * 3 / 4;
+    return CMDIFrameWnd::PreCreateWindow(create);
+}
+
+int CMainFrame::OnCreate(LPCREATESTRUCT create) {
+    if (CMDIFrameWnd::OnCreate(create) == -1)
+        return -1;
+    UINT ids[std::size(kPanes)];
+    for (size_t i = 0; i < std::size(kPanes); ++i)
+        ids[i] = kPanes[i].id;
+    if (!m_statusBar.Create(this) || !m_statusBar.SetIndicators(ids, std::size(kPanes)))
+        return -1;
+    CClientDC dc(this);
+    const int dotsPerInch = dc.GetDeviceCaps(LOGPIXELSX);
+    for (size_t i = 1; i < std::size(kPanes); ++i)
+        m_statusBar.SetPaneInfo(static_cast<int>(i), kPanes[i].id, SBPS_NORMAL,
+                                ::MulDiv(kPanes[i].widthPx, dotsPerInch, 96));
+    m_statusBar.SetPaneInfo(0, ID_SEPARATOR, SBPS_NOBORDERS | SBPS_STRETCH, 0);
+    DragAcceptFiles(TRUE);
+    return 0;
+}
+
+bool CMainFrame::CloseTables() {
+    while (CMDIChildWnd *child = MDIGetActive()) {
+        const HWND window = child->m_hWnd;
+        child->SendMessage(WM_CLOSE, 0, 0);
+        if (::IsWindow(window))
+            return false; // the user keeps it open
+    }
+    return true;
+}
+
+void CMainFrame::OnClose() {
+    if (!CloseTables())
+        return;
+    SavePlacement();
+    AfxGetApp()->SaveStdProfileSettings();
+    CMDIFrameWnd::OnClose();
+}
+
+void CMainFrame::SavePlacement() {
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    if (::GetWindowPlacement(m_hWnd, &placement))
+        AfxGetApp()->WriteProfileBinary(kSection, "Placement", reinterpret_cast<BYTE *>(&placement),
+                                        sizeof placement);
+}
+
+void CMainFrame::RestorePlacement(int show) {
+    BYTE *data = nullptr;
+    UINT bytes = 0;
+    if (AfxGetApp()->GetProfileBinary(kSection, "Placement", &data, &bytes)) {
+        WINDOWPLACEMENT placement;
+        if (bytes == sizeof placement) {
+            std::memcpy(&placement, data, sizeof placement);
+            if (placement.showCmd == SW_SHOWMINIMIZED)
+                placement.showCmd = SW_SHOWNORMAL;
+            // Where no display is any more, the system's own place is better.
+            if (::MonitorFromRect(&placement.rcNormalPosition, MONITOR_DEFAULTTONULL) != nullptr) {
+                ::SetWindowPlacement(m_hWnd, &placement);
+                show = static_cast<int>(placement.showCmd);
+            }
+        }
+        delete[] data;
+    }
+    ShowWindow(show);
+}
+
+void CMainFrame::OnDropFiles(HDROP drop) {
+    SetActiveWindow();
+    const UINT count = ::DragQueryFileA(drop, 0xFFFFFFFF, nullptr, 0);
+    for (UINT i = 0; i < count; ++i) {
+        char path[MAX_PATH];
+        if (::DragQueryFileA(drop, i, path, MAX_PATH) > 0)
+            GetHostApp()->OpenTable(path);
+    }
+    ::DragFinish(drop);
+}
+
+void CMainFrame::OnViewOptions() {
+    COptionsDlg(GetHostApp()->Service().Options(), this).DoModal();
+}
+
+// With no table open the panes are empty; an active child answers before the frame is asked.
+void CMainFrame::OnUpdateEmptyPane(CCmdUI *command) {
+    command->SetText("");
+}

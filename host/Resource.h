@@ -1,0 +1,40 @@
+// Identifiers of the sample host's resources.
+#pragma once
+
+#define IDR_MAINFRAME 100
+#define IDR_TABLE 101 // a child window with a table
+
+#define IDD_ABOUT 120
+#define IDD_FIELD_ORDER 121
+#define IDD_FIELD_VISIBILITY 122
+#define IDD_FILE_INFORMATION 123
+#define IDD_OPTIONS 124
+
+#define IDC_FIELD_LIST 1100
+#define IDC_MOVE_UP 1101
+#define IDC_MOVE_DOWN 1102
+#define IDC_CELL_FONT 1103
+#define IDC_HEADING_FONT 1104
+#define IDC_CELL_FONT_NAME 1105
+#define IDC_HEADING_FONT_NAME 1106
+#define IDC_UNDO_LEVELS 1107
+#define IDC_ENTER_IS_TAB 1108
+#define IDC_TEXT_COLOUR 1109
+#define IDC_HIGHLIGHT_COLOUR 1110
+#define IDC_INFORMATION 1111
+#define IDC_SHOW_ALL 1112
+#define IDC_HIDE_ALL 1113
+
+#define ID_RECORD_APPEND 32771
+#define ID_EDIT_BLANK 32772
+#define ID_MODE_NORMAL 32773 // the three modes stand in the order of their numbers
+#define ID_MODE_READ_ONLY 32774
+#define ID_MODE_VERIFY 32775
+#define ID_ENTER_IS_TAB 32776
+#define ID_FILE_INFORMATION 32777
+#define ID_VIEW_OPTIONS 32778
+
+#define ID_PANE_RECORD 33001
+#define ID_PANE_FIELD 33002
+#define ID_PANE_MODE 33003
+#define ID_PANE_MODIFIED 33004
