@@ -14,11 +14,8 @@ struct RecordOrder::Node {
 // A change splits at two places at most, or at one place with a node of its own.
 static constexpr std::size_t kNodesPerOperation = 2;
 
-RecordOrder::RecordOrder(Row count) {
-    if (count > 0) {
-        insert(0, 0, count);
-    }
-}
+// By way of the other constructor, so that the destructor runs when memory fails in here.
+RecordOrder::RecordOrder(Row count) : RecordOrder() { insert(0, 0, count); }
 
 RecordOrder::RecordOrder(RecordOrder &&other) noexcept {
     *this = std::move(other);

@@ -37,8 +37,9 @@ public:
         Node *root_ = nullptr;
     };
 
+    RecordOrder() = default;
     // The records 0 to count - 1 in this order.
-    explicit RecordOrder(Row count = 0);
+    explicit RecordOrder(Row count);
     RecordOrder(RecordOrder &&other) noexcept;
     RecordOrder &operator=(RecordOrder &&other) noexcept;
     ~RecordOrder();
