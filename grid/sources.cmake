@@ -3,7 +3,9 @@ set(GRID_MODEL_SOURCES
     UGAxis.cpp
     UGCell.cpp
     UGDataSource.cpp
+    UGDragScroll.cpp
     UGDrawRules.cpp
+    UGEditMask.cpp
     UGGridInfo.cpp
     UGMem.cpp
     UGMem_Search.cpp
@@ -13,7 +15,30 @@ set(GRID_MODEL_SOURCES
 
 # The windows and what draws.
 set(GRID_WINDOW_SOURCES
+    UGCellType.cpp
     UGCell_Gdi.cpp
+    UGCnrBtn.cpp
+    UGCtrl.cpp
+    UGCtrl_Cells.cpp
+    UGCtrl_Conduct.cpp
+    UGCtrl_Edit.cpp
+    UGCtrl_Geometry.cpp
+    UGCtrl_Move.cpp
+    UGCtrl_Notify.cpp
+    UGCtrl_Selection.cpp
+    UGCtrl_Size.cpp
+    UGCtrl_Sources.cpp
+    UGCtrl_Text.cpp
+    UGCtrl_Types.cpp
+    UGEdit.cpp
+    UGGrid.cpp
+    UGGrid_Input.cpp
+    UGGrid_Paint.cpp
+    UGHeading.cpp
+    UGHint.cpp
+    UGScroll.cpp
+    UGSideHdg.cpp
+    UGTopHdg.cpp
 )
 list(TRANSFORM GRID_MODEL_SOURCES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
 list(TRANSFORM GRID_WINDOW_SOURCES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)

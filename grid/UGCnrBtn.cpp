@@ -1,0 +1,136 @@
+#include "grid/UGCnrBtn.h"
+
+#include "grid/UGCtrl.h"
+
+IMPLEMENT_DYNAMIC(CUGCnrBtn, CWnd)
+
+BEGIN_MESSAGE_MAP(CUGCnrBtn, CWnd)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_RBUTTONDOWN()
+    ON_WM_RBUTTONUP()
+END_MESSAGE_MAP()
+
+namespace {
+
+constexpr int kEdgePx = 5;   // from one edge: that heading is sized
+constexpr int kCornerPx = 8; // from both edges: both are
+
+} // namespace
+
+BOOL CUGCnrBtn::PreCreateWindow(CREATESTRUCT &create) {
+    if (create.lpszClass == nullptr)
+        create.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, nullptr, nullptr, nullptr);
+    return CWnd::PreCreateWindow(create);
+}
+
+BOOL CUGCnrBtn::OnEraseBkgnd(CDC *) {
+    return TRUE;
+}
+
+// As the side heading: the locked columns' headings from the right, then the corner's own cell.
+void CUGCnrBtn::OnPaint() {
+    CPaintDC dc(this);
+    if (!m_GI->m_paintingEnabled)
+        return;
+    HGDIOBJ oldFont = nullptr;
+    if (m_GI->m_defaultFont != nullptr)
+        oldFont = ::SelectObject(dc.GetSafeHdc(), m_GI->m_defaultFont);
+    RECT rect = {0, 0, m_GI->m_sideHeadingWidth, m_GI->m_topHeadingHeight};
+    for (int col = m_GI->m_lockedCols - 1; col >= -1; --col) {
+        rect.left = col >= 0 ? rect.right - m_GI->m_cols.SizeOf(col) : 0;
+        RECT area = rect;
+        rect.right = rect.left;
+        if (area.right <= area.left)
+            continue;
+        m_cell.ClearAll();
+        m_ctrl->GetCell(col, -1, &m_cell);
+        CUGCellType *type = m_ctrl->GetCellType(m_cell.GetCellType());
+        type->DrawBorder(&dc, &area, &m_cell);
+        type->OnDraw(&dc, &area, &m_cell, 0, 0);
+    }
+    if (oldFont != nullptr)
+        ::SelectObject(dc.GetSafeHdc(), oldFont);
+}
+
+void CUGCnrBtn::LookForEdge(CPoint point) {
+    const int fromBottom = m_GI->m_topHeadingHeight - point.y;
+    const int fromRight = m_GI->m_sideHeadingWidth - point.x;
+    const bool corner = fromBottom <= kCornerPx && fromRight <= kCornerPx;
+    const bool height = (corner || fromBottom <= kEdgePx) && m_ctrl->OnCanSizeTopHdg();
+    const bool width = (corner || fromRight <= kEdgePx) && m_ctrl->OnCanSizeSideHdg();
+    const bool both = corner && height && width;
+    m_sizeHeight = both || (height && fromBottom <= kEdgePx);
+    m_sizeWidth = both || (width && fromRight <= kEdgePx);
+    LPCSTR cursor = IDC_ARROW;
+    if (m_sizeHeight && m_sizeWidth)
+        cursor = IDC_SIZENWSE;
+    else if (m_sizeHeight)
+        cursor = IDC_SIZENS;
+    else if (m_sizeWidth)
+        cursor = IDC_SIZEWE;
+    ::SetCursor(::LoadCursorA(nullptr, cursor));
+}
+
+void CUGCnrBtn::Drag(CPoint point) {
+    m_ctrl->EnablePainting(0);
+    if (m_sizeHeight) {
+        int height = std::max<int>(point.y, 0);
+        m_ctrl->OnTopHdgSizing(&height);
+        m_ctrl->SetTH_Height(height);
+    }
+    if (m_sizeWidth) {
+        int width = std::max<int>(point.x, 0);
+        m_ctrl->OnSideHdgSizing(&width);
+        m_ctrl->SetSH_Width(width);
+    }
+    m_ctrl->EnablePainting(1);
+    UpdateWindow();
+    m_ctrl->m_topHdg.UpdateWindow();
+    m_ctrl->m_sideHdg.UpdateWindow();
+    m_ctrl->m_grid.UpdateWindow();
+}
+
+void CUGCnrBtn::OnMouseMove(UINT, CPoint point) {
+    if (m_resizing)
+        Drag(point);
+    else
+        LookForEdge(point);
+}
+
+void CUGCnrBtn::OnLButtonDown(UINT, CPoint point) {
+    LookForEdge(point);
+    SetCapture();
+    m_resizing = m_sizeHeight || m_sizeWidth;
+    if (!m_resizing)
+        m_ctrl->OnCB_LClicked(1);
+}
+
+void CUGCnrBtn::OnLButtonUp(UINT, CPoint) {
+    if (GetCapture() == this)
+        ReleaseCapture();
+    if (!m_resizing) {
+        m_ctrl->OnCB_LClicked(0);
+        return;
+    }
+    m_resizing = false;
+    m_ctrl->Update();
+    int width = -1; // the sizes stand in the control already; no column was dragged
+    m_ctrl->OnColSized(-1, &width);
+}
+
+void CUGCnrBtn::OnLButtonDblClk(UINT, CPoint) {
+    m_ctrl->OnCB_DClicked();
+}
+
+void CUGCnrBtn::OnRButtonDown(UINT, CPoint) {
+    m_ctrl->OnCB_RClicked(1);
+}
+
+void CUGCnrBtn::OnRButtonUp(UINT, CPoint) {
+    m_ctrl->OnCB_RClicked(0);
+}

@@ -1,0 +1,159 @@
+// Settings of the control's conduct, its redrawing, and the device contexts it lends.
+#include "grid/UGCtrl.h"
+
+namespace {
+
+int StoreUpTo(int *setting, int value, int limit) {
+    if (value < 0 || value > limit)
+        return GRID_ERROR;
+    *setting = value;
+    return GRID_SUCCESS;
+}
+
+} // namespace
+
+int CUGCtrl::SetCurrentCellStyle(int style) {
+    return StoreUpTo(&m_GI.m_currentCellStyle, style, 3);
+}
+
+int CUGCtrl::SetVScrollMode(int mode) {
+    const int result = StoreUpTo(&m_GI.m_vScrollMode, mode, 2);
+    if (result == GRID_SUCCESS && m_vScroll.GetSafeHwnd() != nullptr)
+        m_vScroll.UpdateRange();
+    return result;
+}
+
+int CUGCtrl::SetHScrollMode(int mode) {
+    return StoreUpTo(&m_GI.m_hScrollMode, mode, 1);
+}
+
+int CUGCtrl::SetBallisticMode(int mode) {
+    return StoreUpTo(&m_GI.m_ballisticMode, mode, 3);
+}
+
+int CUGCtrl::SetBallisticDelay(int milliseconds) {
+    m_GI.m_ballisticDelay = milliseconds < 0 ? 0 : milliseconds;
+    return GRID_SUCCESS;
+}
+
+int CUGCtrl::SetUserSizingMode(int mode) {
+    return StoreUpTo(&m_GI.m_userSizingMode, mode, 2);
+}
+
+int CUGCtrl::EnableColTranslation(int enable) {
+    m_GI.m_colTranslationEnabled = enable != 0;
+    return GRID_SUCCESS;
+}
+
+int CUGCtrl::EnablePainting(int enable) {
+    m_GI.m_paintingEnabled = enable != 0;
+    if (enable)
+        RedrawAll();
+    return GRID_SUCCESS;
+}
+
+int CUGCtrl::EnablePopupMenu(int enable) {
+    m_GI.m_popupMenuEnabled = enable != 0;
+    return GRID_SUCCESS;
+}
+
+int CUGCtrl::EnableScrollHints(int vertical, int horizontal) {
+    m_GI.m_vScrollHint = vertical != 0;
+    m_GI.m_hScrollHint = horizontal != 0;
+    return GRID_SUCCESS;
+}
+
+int CUGCtrl::SetSuppressFinishOnFocusLoss(int suppress) {
+    m_GI.m_suppressFinish = suppress;
+    return GRID_SUCCESS;
+}
+
+int CUGCtrl::SetMarginMoveType(int moveType) {
+    m_GI.m_moveType = moveType;
+    return GRID_SUCCESS;
+}
+
+int CUGCtrl::Set3DBorderWidth(int width) {
+    if (width < 0)
+        return GRID_ERROR;
+    m_GI.m_3dBorderWidth = width;
+    return GRID_SUCCESS;
+}
+
+int CUGCtrl::SetDoubleBuffer(int enable) {
+    m_grid.SetDoubleBuffer(enable != 0);
+    return GRID_SUCCESS;
+}
+
+int CUGCtrl::SetDefaultFont(CFont *font) {
+    m_GI.m_defaultFont = font != nullptr ? static_cast<HFONT>(font->GetSafeHandle()) : nullptr;
+    m_hint.SetFont(font);
+    RedrawAll();
+    return GRID_SUCCESS;
+}
+
+void CUGCtrl::RedrawAll() {
+    if (m_grid.GetSafeHwnd() == nullptr || !m_GI.m_paintingEnabled)
+        return;
+    m_grid.Invalidate(FALSE);
+    m_topHdg.Invalidate(FALSE);
+    m_sideHdg.Invalidate(FALSE);
+    m_cornerBtn.Invalidate(FALSE);
+}
+
+void CUGCtrl::RedrawCell(int col, long row) {
+    if (m_grid.GetSafeHwnd() == nullptr)
+        return;
+    RECT rect;
+    if (row < 0 || col < 0) {
+        RedrawAll();
+    } else if (GetCellRect(col, row, &rect) == GRID_SUCCESS) {
+        m_grid.InvalidateRect(&rect, FALSE);
+        if (col < m_GI.m_lockedCols)
+            m_sideHdg.Invalidate(FALSE);
+    }
+}
+
+void CUGCtrl::RedrawRow(long row) {
+    if (m_grid.GetSafeHwnd() == nullptr || !m_GI.m_rows.Contains(row))
+        return;
+    const long top = m_GI.m_rows.PositionOf(row);
+    const long bottom = top + m_GI.m_rows.SizeOf(row);
+    const RECT cells = {0, top, m_GI.m_cols.m_extent, bottom};
+    const RECT heading = {0, top, m_GI.m_sideHeadingWidth, bottom};
+    m_grid.InvalidateRect(&cells, FALSE);
+    m_sideHdg.InvalidateRect(&heading, FALSE);
+}
+
+void CUGCtrl::RedrawCol(int col) {
+    if (m_grid.GetSafeHwnd() == nullptr || !m_GI.m_cols.Contains(col))
+        return;
+    const long left = m_GI.m_cols.PositionOf(col);
+    const long right = left + m_GI.m_cols.SizeOf(col);
+    const RECT cells = {left, 0, right, m_GI.m_rows.m_extent};
+    const RECT heading = {left, 0, right, m_GI.m_topHeadingHeight};
+    m_grid.InvalidateRect(&cells, FALSE);
+    m_topHdg.InvalidateRect(&heading, FALSE);
+}
+
+void CUGCtrl::Update() {
+    RedrawAll();
+    UpdateState();
+    UpdateWindow();
+}
+
+CDC *CUGCtrl::GetGridDC() {
+    return m_grid.GetDC();
+}
+
+int CUGCtrl::ReleaseGridDC(CDC *dc) {
+    return m_grid.ReleaseDC(dc) ? GRID_SUCCESS : GRID_ERROR;
+}
+
+CDC *CUGCtrl::GetTopHeadingDC() {
+    return m_topHdg.GetDC();
+}
+
+int CUGCtrl::ReleaseTopHeadingDC(CDC *dc) {
+    return m_topHdg.ReleaseDC(dc) ? GRID_SUCCESS : GRID_ERROR;
+}

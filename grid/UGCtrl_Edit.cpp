@@ -1,0 +1,86 @@
+// The in-cell edit: starting it and moving on to the next cell.
+#include "grid/UGCtrl.h"
+
+#include "grid/UGDrawRules.h"
+
+#include <algorithm>
+
+CEdit *CUGCtrl::GetEditControl() {
+    return m_grid.m_edit.GetSafeHwnd() != nullptr ? &m_grid.m_edit : nullptr;
+}
+
+void CUGCtrl::DestroyEdit() {
+    if (m_grid.m_edit.GetSafeHwnd() != nullptr) {
+        m_grid.m_edit.m_active = false;
+        m_grid.m_edit.DestroyWindow();
+    }
+}
+
+int CUGCtrl::StartEdit() {
+    return StartEdit(0);
+}
+
+int CUGCtrl::StartEdit(int key) {
+    const int col = GetCurrentCol();
+    const long row = GetCurrentRow();
+    CUGCell cell;
+    if (m_grid.GetSafeHwnd() == nullptr || !m_GI.m_cols.Contains(col) || !m_GI.m_rows.Contains(row))
+        return GRID_ERROR;
+    GetCell(col, row, &cell);
+    if (cell.GetReadOnly() == 1)
+        return GRID_ERROR;
+    ClearSelections();
+    CUGCellType *type = GetCellType(cell.GetCellType());
+    if (!type->CanTextEdit())
+        return GRID_ERROR;
+    DestroyEdit();
+    BringCurrentIntoView();
+    m_grid.UpdateWindow();
+    RECT rect;
+    GetCellRect(col, row, &rect);
+    UGShrinkByBorder(&rect, cell.GetBorder(), m_GI.m_3dBorderWidth);
+    type->GetEditArea(&rect);
+    DWORD style = WS_CHILD | ES_AUTOHSCROLL;
+    OnSetupEditWindow(col, row, &rect, &cell, &style, 0);
+    CUGEdit &edit = m_grid.m_edit;
+    if (!edit.Open(style, rect, &m_grid, cell, m_GI.m_defaultFont))
+        return GRID_ERROR;
+    if (!OnEditStart(col, row, &edit)) {
+        DestroyEdit();
+        return GRID_ERROR;
+    }
+    m_GI.m_editCol = col;
+    m_GI.m_editRow = row;
+    edit.Show(key);
+    return GRID_SUCCESS;
+}
+
+// Wraps a column beyond the ends to the next or previous row and holds the row in range.
+bool CUGCtrl::WrapEditCell(int *col, long *row) {
+    const int cols = GetNumberCols();
+    if (cols < 1 || GetNumberRows() < 1)
+        return false;
+    if (*col >= cols) {
+        *col = 0;
+        ++*row;
+    } else if (*col < 0) {
+        *col = cols - 1;
+        --*row;
+    }
+    *row = std::clamp(*row, 0L, GetNumberRows() - 1);
+    return true;
+}
+
+int CUGCtrl::EditContinue(int dx, int dy) {
+    int col = m_GI.m_editCol + dx;
+    long row = m_GI.m_editRow + dy;
+    WrapEditCell(&col, &row);
+    if (!OnEditContinue(GetCurrentCol(), GetCurrentRow(), &col, &row) || !WrapEditCell(&col, &row)) {
+        DestroyEdit();
+        m_grid.SetFocus();
+        return GRID_ERROR;
+    }
+    m_GI.m_moveType = UG_MOVED_BY_PROGRAM;
+    GotoCell(col, row);
+    return StartEdit();
+}

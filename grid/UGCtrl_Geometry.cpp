@@ -1,0 +1,57 @@
+// Where cells stand and which cell is at a point, joined blocks included.
+#include "grid/UGCtrl.h"
+
+// The block reaches as far as its neighbours to the right and below name the same origin.
+void CUGCtrl::GetJoinRange(int col, long row, int *startCol, long *startRow, int *endCol, long *endRow) {
+    CUGCell cell;
+    GetCell(col, row, &cell);
+    *startCol = *endCol = col;
+    *startRow = *endRow = row;
+    if (!cell.IsJoined())
+        return;
+    *startCol = *endCol = cell.GetJoinOriginCol();
+    *startRow = *endRow = cell.GetJoinOriginRow();
+    const auto belongs = [&](int c, long r) {
+        return GetCell(c, r, &cell) != GRID_ERROR && cell.IsJoined() && cell.GetJoinOriginCol() == *startCol &&
+               cell.GetJoinOriginRow() == *startRow;
+    };
+    while (*endCol + 1 < m_GI.m_cols.m_count && belongs(*endCol + 1, *startRow))
+        ++*endCol;
+    while (*endRow + 1 < m_GI.m_rows.m_count && belongs(*startCol, *endRow + 1))
+        ++*endRow;
+}
+
+int CUGCtrl::GetCellRect(int col, long row, RECT *rect) {
+    if (!m_GI.m_cols.Contains(col) || !m_GI.m_rows.Contains(row))
+        return GRID_ERROR;
+    int startCol, endCol;
+    long startRow, endRow;
+    GetJoinRange(col, row, &startCol, &startRow, &endCol, &endRow);
+    rect->left = m_GI.m_cols.PositionOf(startCol);
+    rect->top = m_GI.m_rows.PositionOf(startRow);
+    rect->right = rect->left + m_GI.m_cols.Span(startCol, endCol + 1L);
+    rect->bottom = rect->top + m_GI.m_rows.Span(startRow, endRow + 1);
+    return GRID_SUCCESS;
+}
+
+int CUGCtrl::GetCellFromPoint(int x, int y, int *col, long *row, RECT *rect) {
+    *col = -1;
+    *row = -1;
+    if (x < 0 || x > m_GI.m_cols.m_extent || y < 0 || y > m_GI.m_rows.m_extent)
+        return GRID_ERROR;
+    const long foundCol = m_GI.m_cols.At(x);
+    const long foundRow = m_GI.m_rows.At(y);
+    if (foundCol < 0 || foundRow < 0)
+        return GRID_ERROR;
+    *col = static_cast<int>(foundCol);
+    *row = foundRow;
+    CUGCell cell;
+    GetCell(*col, *row, &cell);
+    if (cell.IsJoined()) {
+        *col = cell.GetJoinOriginCol();
+        *row = cell.GetJoinOriginRow();
+    }
+    if (rect != nullptr)
+        GetCellRect(*col, *row, rect);
+    return GRID_SUCCESS;
+}

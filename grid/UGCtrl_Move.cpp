@@ -1,0 +1,248 @@
+// Moving the current cell and the view, and the update that tells of it.
+#include "grid/UGCtrl.h"
+
+#include <algorithm>
+
+// The row is one that the current cell can go to. GRID_ERROR also for the row where it stands.
+int CUGCtrl::VerifyCurrentRow(long row) {
+    CUGAxis &rows = m_GI.m_rows;
+    if (row == rows.m_current)
+        return GRID_ERROR;
+    if (row >= rows.m_count) {
+        const long past = row - rows.m_count + 1;
+        long found = 0;
+        m_GI.CurrentSource()->RequestMoreRows(rows.m_count, past, &found);
+        OnHitBottom(rows.m_count, past, found);
+        return row < rows.m_count ? GRID_SUCCESS : GRID_ERROR;
+    }
+    if (row < 0) {
+        OnHitTop(rows.m_count, row);
+        return GRID_ERROR;
+    }
+    return GRID_SUCCESS;
+}
+
+int CUGCtrl::VerifyTopRow(long row) {
+    CUGAxis &rows = m_GI.m_rows;
+    if (row == rows.m_leading)
+        return GRID_ERROR;
+    if (row > rows.m_maxLeading) {
+        long found = 0;
+        m_GI.CurrentSource()->RequestMoreRows(rows.m_count, row - rows.m_count + 1, &found);
+        OnHitBottom(rows.m_count, row - rows.m_maxLeading, found);
+        return row <= rows.m_maxLeading ? GRID_SUCCESS : GRID_ERROR;
+    }
+    if (row < 0) {
+        OnHitTop(rows.m_count, row);
+        return GRID_ERROR;
+    }
+    return GRID_SUCCESS;
+}
+
+// The target is in range: goes there unless vetoed.
+int CUGCtrl::MoveTo(int col, long row) {
+    const int oldCol = GetCurrentCol();
+    const long oldRow = GetCurrentRow();
+    if (col == oldCol && row == oldRow)
+        return GRID_SUCCESS;
+    if (!OnCanMove(oldCol, oldRow, col, row))
+        return GRID_REFUSED;
+    m_GI.m_cols.m_current = col;
+    m_GI.m_rows.m_current = row;
+    UpdateState();
+    return GRID_SUCCESS;
+}
+
+int CUGCtrl::GotoCell(int col, long row) {
+    if (!m_GI.m_cols.Contains(col))
+        return GRID_ERROR;
+    if (row != GetCurrentRow() && VerifyCurrentRow(row) != GRID_SUCCESS)
+        return GRID_ERROR;
+    if (col == GetCurrentCol() && row == GetCurrentRow())
+        return GRID_SUCCESS;
+    CUGCell cell;
+    GetCell(col, row, &cell);
+    if (cell.IsJoined() && !cell.IsJoinOrigin()) {
+        col = cell.GetJoinOriginCol();
+        row = cell.GetJoinOriginRow();
+    }
+    return MoveTo(col, row);
+}
+
+// Where a step lands that begins inside a joined block: behind the block, not on its hidden part.
+long CUGCtrl::StepOverJoin(bool rows, long target) {
+    const int col = GetCurrentCol();
+    const long row = GetCurrentRow();
+    const long past = rows ? row : col;
+    if (target <= past && !rows)
+        return target;
+    CUGCell cell;
+    GetCell(rows ? col : static_cast<int>(target), rows ? target : row, &cell);
+    if (!cell.IsJoined())
+        return target;
+    int left, right;
+    long top, bottom;
+    GetJoinRange(cell.GetJoinOriginCol(), cell.GetJoinOriginRow(), &left, &top, &right, &bottom);
+    const bool ownBlock = col >= left && col <= right && row >= top && row <= bottom;
+    if (!ownBlock)
+        return target;
+    const CUGAxis &axis = rows ? m_GI.m_rows : m_GI.m_cols;
+    return std::min((rows ? bottom : static_cast<long>(right)) + 1, axis.m_count - 1);
+}
+
+int CUGCtrl::GotoRow(long row) {
+    CUGAxis &rows = m_GI.m_rows;
+    if (rows.m_count < 1 || m_GI.m_cols.m_count < 1)
+        return GRID_ERROR;
+    if (VerifyCurrentRow(row) != GRID_SUCCESS)
+        row = std::clamp(row, 0L, std::max(rows.m_count - 1, 0L));
+    if (row != rows.m_current)
+        row = StepOverJoin(true, row);
+    return MoveTo(GetCurrentCol(), row);
+}
+
+int CUGCtrl::GotoCol(int col) {
+    CUGAxis &cols = m_GI.m_cols;
+    if (cols.m_count < 1 || m_GI.m_rows.m_count < 1)
+        return GRID_ERROR;
+    long target = std::clamp(static_cast<long>(col), 0L, cols.m_count - 1);
+    target = StepOverJoin(false, target);
+    return MoveTo(static_cast<int>(target), GetCurrentRow());
+}
+
+namespace {
+
+// The target of a move of the current row or column; -2 for an unknown selector.
+long MoveTarget(const CUGAxis &axis, int how) {
+    switch (how) {
+    case UG_MOVE_BACK: return axis.m_current - 1;
+    case UG_MOVE_FORWARD: return axis.m_current + 1;
+    case UG_MOVE_PAGE_BACK: return std::max(axis.PageBack(axis.m_current), 0L);
+    case UG_MOVE_PAGE_FORWARD: return axis.PageForward(axis.m_current);
+    case UG_MOVE_FIRST: return 0;
+    case UG_MOVE_LAST: return axis.m_count - 1;
+    default: return -2;
+    }
+}
+
+bool IsMove(int how) {
+    return how >= UG_MOVE_BACK && how <= UG_MOVE_LAST;
+}
+
+} // namespace
+
+int CUGCtrl::MoveCurrentRow(int how) {
+    return IsMove(how) ? GotoRow(MoveTarget(m_GI.m_rows, how)) : GRID_BAD_ARGUMENT;
+}
+
+int CUGCtrl::MoveCurrentCol(int how) {
+    if (!IsMove(how))
+        return GRID_BAD_ARGUMENT;
+    // A page to the right begins only behind the first column: from there it stays, as hosts expect.
+    if (how == UG_MOVE_PAGE_FORWARD && GetCurrentCol() == 0)
+        return GRID_SUCCESS;
+    return GotoCol(static_cast<int>(MoveTarget(m_GI.m_cols, how)));
+}
+
+namespace {
+
+long ViewTarget(const CUGAxis &axis, int how) {
+    switch (how) {
+    case UG_MOVE_BACK: return axis.m_leading - 1;
+    case UG_MOVE_FORWARD: return axis.m_leading + 1;
+    case UG_MOVE_PAGE_BACK: return std::max(axis.PageBack(axis.m_leading), 0L);
+    case UG_MOVE_PAGE_FORWARD: return std::min(axis.PageForward(axis.m_leading), axis.m_maxLeading);
+    case UG_MOVE_FIRST: return 0;
+    default: return axis.m_maxLeading;
+    }
+}
+
+} // namespace
+
+int CUGCtrl::MoveViewTo(int leftCol, long topRow) {
+    if (!OnCanViewMove(GetLeftCol(), GetTopRow(), leftCol, topRow))
+        return GRID_REFUSED;
+    m_GI.m_cols.m_leading = leftCol;
+    m_GI.m_rows.m_leading = topRow;
+    UpdateState();
+    return GRID_SUCCESS;
+}
+
+int CUGCtrl::MoveTopRow(int how) {
+    if (!IsMove(how))
+        return GRID_ERROR;
+    const long target = ViewTarget(m_GI.m_rows, how);
+    if (VerifyTopRow(target) != GRID_SUCCESS)
+        return GRID_ERROR;
+    return MoveViewTo(GetLeftCol(), target);
+}
+
+int CUGCtrl::MoveLeftCol(int how) {
+    if (!IsMove(how))
+        return GRID_ERROR;
+    const long target = ViewTarget(m_GI.m_cols, how);
+    if (target < 0 || target > m_GI.m_cols.m_maxLeading)
+        return GRID_ERROR;
+    return MoveViewTo(static_cast<int>(target), GetTopRow());
+}
+
+int CUGCtrl::SetTopRow(long row) {
+    if (row == GetTopRow())
+        return GRID_SUCCESS;
+    return VerifyTopRow(row) == GRID_SUCCESS ? MoveViewTo(GetLeftCol(), row) : GRID_ERROR;
+}
+
+int CUGCtrl::SetLeftCol(int col) {
+    if (col == GetLeftCol())
+        return GRID_SUCCESS;
+    if (col < 0 || col > m_GI.m_cols.m_maxLeading)
+        return GRID_ERROR;
+    return MoveViewTo(col, GetTopRow());
+}
+
+void CUGCtrl::BringCurrentIntoView() {
+    m_GI.m_rows.m_leading = m_GI.m_rows.LeadingForCurrent(m_GI.m_scrollMargin);
+    m_GI.m_cols.m_leading = m_GI.m_cols.LeadingForCurrent(m_GI.m_scrollMargin);
+    UpdateState();
+}
+
+void CUGCtrl::UpdateState() {
+    CUGAxis &cols = m_GI.m_cols;
+    CUGAxis &rows = m_GI.m_rows;
+    const int lastCol = static_cast<int>(cols.m_last);
+    const long lastRow = rows.m_last;
+    const bool rowChanged = rows.m_current != lastRow;
+    const bool colChanged = cols.m_current != lastCol;
+    if (rowChanged) {
+        rows.m_leading = rows.LeadingForCurrent(m_GI.m_scrollMargin);
+        OnRowChange(lastRow, rows.m_current);
+    }
+    if (colChanged) {
+        cols.m_leading = cols.LeadingForCurrent(m_GI.m_scrollMargin);
+        OnColChange(lastCol, GetCurrentCol());
+    }
+    if (rowChanged || colChanged)
+        OnCellChange(lastCol, GetCurrentCol(), lastRow, rows.m_current);
+    if (rows.m_leading != rows.m_lastLeading)
+        OnTopRowChange(rows.m_lastLeading, rows.m_leading);
+    if (cols.m_leading != cols.m_lastLeading)
+        OnLeftColChange(static_cast<int>(cols.m_lastLeading), GetLeftCol());
+    if (rowChanged || colChanged) {
+        if (m_GI.m_multiSelect)
+            UpdateSelection();
+        UpdateFocusedType(lastCol, lastRow);
+    }
+    RepaintViews();
+    rows.m_last = rows.m_current;
+    cols.m_last = cols.m_current;
+    rows.m_lastLeading = rows.m_leading;
+    cols.m_lastLeading = cols.m_leading;
+}
+
+void CUGCtrl::UpdateFocusedType(int lastCol, long lastRow) {
+    GetCellType(m_GI.m_currentCell.GetCellType())->OnKillFocus(lastCol, lastRow, &m_GI.m_currentCell);
+    m_GI.m_currentCell.ClearAll();
+    GetCell(GetCurrentCol(), GetCurrentRow(), &m_GI.m_currentCell);
+    GetCellType(m_GI.m_currentCell.GetCellType())
+        ->OnSetFocus(GetCurrentCol(), GetCurrentRow(), &m_GI.m_currentCell);
+}

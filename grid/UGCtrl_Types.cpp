@@ -1,0 +1,68 @@
+// The table of cell types, and the best width of a column by what its cells need.
+#include "grid/UGCtrl.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kBestFitMarginPx = 6;
+
+} // namespace
+
+CUGCellType *CUGCtrl::GetCellType(int id) {
+    if (id >= 1) {
+        for (size_t i = 1; i < m_cellTypes.size(); ++i) {
+            if (m_cellTypes[i] != nullptr && m_cellTypes[i]->GetID() == id)
+                return m_cellTypes[i];
+        }
+    }
+    return m_cellTypes[0];
+}
+
+long CUGCtrl::AddCellType(CUGCellType *type) {
+    auto empty = std::find(m_cellTypes.begin(), m_cellTypes.end(), nullptr);
+    if (empty != m_cellTypes.end())
+        *empty = type;
+    else
+        m_cellTypes.push_back(type);
+    type->m_ctrl = this;
+    type->m_GI = &m_GI;
+    return type->GetID();
+}
+
+int CUGCtrl::RemoveCellType(long id) {
+    for (CUGCellType *&type : m_cellTypes) {
+        if (type != nullptr && type->GetID() == id) {
+            // The base type stays: cells of every unknown id are drawn by it.
+            if (&type == &m_cellTypes.front())
+                return GRID_ERROR;
+            type = nullptr;
+            return GRID_SUCCESS;
+        }
+    }
+    return GRID_ERROR;
+}
+
+int CUGCtrl::BestFit(int firstCol, int lastCol, int rows) {
+    lastCol = std::min(lastCol, GetNumberCols() - 1);
+    if (firstCol > lastCol)
+        return GRID_ERROR;
+    const long lastRow = std::min(GetTopRow() + rows, GetNumberRows() - 1);
+    std::vector<long> widths(lastCol - firstCol + 1, 0L);
+    CDC *dc = GetGridDC();
+    CUGCell cell;
+    for (long row = GetTopRow(); row <= lastRow; ++row) {
+        for (int col = firstCol; col <= lastCol; ++col) {
+            GetCellRaw(col, row, &cell);
+            SIZE size{};
+            GetCellType(cell.GetCellType())->GetBestSize(dc, &size, &cell);
+            widths[col - firstCol] = std::max<long>(widths[col - firstCol], size.cx);
+        }
+    }
+    ReleaseGridDC(dc);
+    for (int col = firstCol; col <= lastCol; ++col)
+        m_GI.SetColWidth(col, static_cast<int>(widths[col - firstCol]) + kBestFitMarginPx);
+    AdjustAxis(m_GI.m_cols);
+    RedrawAll();
+    return GRID_SUCCESS;
+}

@@ -1,0 +1,184 @@
+#include "grid/UGEdit.h"
+
+#include "grid/UGCtrl.h"
+
+#include <cctype>
+
+IMPLEMENT_DYNAMIC(CUGEdit, CEdit)
+
+BEGIN_MESSAGE_MAP(CUGEdit, CEdit)
+    ON_WM_KEYDOWN()
+    ON_WM_KEYUP()
+    ON_WM_CHAR()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
+    ON_WM_GETDLGCODE()
+    ON_CONTROL_REFLECT(EN_UPDATE, OnUpdateText)
+END_MESSAGE_MAP()
+
+bool CUGEdit::Open(DWORD style, const RECT &rect, CUGGrid *grid, const CUGCell &cell, HFONT defaultFont) {
+    m_ctrl = grid->m_ctrl;
+    m_active = false;
+    m_focusSeen = false;
+    m_mask.Set(nullptr);
+    if (!Create(style, rect, grid, kEditChildId))
+        return false;
+    const HFONT font = cell.GetFontHandle() != nullptr ? cell.GetFontHandle() : defaultFont;
+    if (font != nullptr)
+        SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    if (cell.GetMaxLength() >= 0)
+        LimitText(cell.GetMaxLength());
+    SetWindowText(cell.GetText());
+    m_mask.Set(cell.GetMask());
+    if (m_mask.IsOn()) {
+        LimitText(m_mask.Length());
+        Reformat();
+    }
+    return true;
+}
+
+void CUGEdit::Show(int key) {
+    ShowWindow(SW_SHOW);
+    SetFocus();
+    SetSel(0, -1);
+    SendMessage(EM_SCROLLCARET, 0, 0);
+    m_active = true;
+    if (key > 0)
+        SendMessage(WM_CHAR, key, 0);
+}
+
+// 1: nothing more is owed, and what was typed stands in the cell. 0: the notification stopped the write.
+int CUGEdit::Finish() {
+    if (!m_active)
+        return 1;
+    m_active = false;
+    const int col = m_ctrl->GetCurrentCol();
+    const long row = m_ctrl->GetCurrentRow();
+    if (!m_ctrl->OnEditFinish(col, row, this)) {
+        m_active = true; // the box stays open and asks again
+        return 0;
+    }
+    CString text;
+    GetWindowText(text);
+    CUGCell cell;
+    m_ctrl->GetCellRaw(col, row, &cell);
+    cell.SetText(text);
+    m_ctrl->SetCell(col, row, &cell);
+    return 1;
+}
+
+void CUGEdit::FinishAndContinue(int dx, int dy) {
+    CUGCtrl *ctrl = m_ctrl;
+    if (Finish())
+        ctrl->EditContinue(dx, dy);
+}
+
+void CUGEdit::OnKeyDown(UINT key, UINT, UINT) {
+    if (!m_ctrl->OnEditVerify(-1, -1, this, &key))
+        return;
+    if (GetSafeHwnd() == nullptr)
+        return; // the notification ended the edit
+    switch (key) {
+    case VK_TAB: FinishAndContinue((::GetKeyState(VK_SHIFT) & 0x8000) ? -1 : 1, 0); break;
+    case VK_RETURN: FinishAndContinue(1, 0); break;
+    case VK_UP: FinishAndContinue(0, -1); break;
+    case VK_DOWN: FinishAndContinue(0, 1); break;
+    case VK_ESCAPE: {
+        m_active = false;
+        CUGCtrl *ctrl = m_ctrl;
+        DestroyWindow();
+        ctrl->SetFocus();
+        break;
+    }
+    default: Default(); break;
+    }
+}
+
+void CUGEdit::OnKeyUp(UINT key, UINT, UINT) {
+    if (m_ctrl->OnEditVerify(-2, -2, this, &key))
+        Default();
+}
+
+// Clears the selection and puts a literal in front of the character where one belongs. False refuses it.
+bool CUGEdit::PassMask(char character) {
+    SendMessage(WM_CLEAR, 0, 0);
+    int start, end;
+    GetSel(start, end);
+    if (start >= m_mask.Length())
+        return false;
+    if (const char literal = m_mask.LiteralAt(start)) {
+        m_maskBusy = true;
+        SendMessage(WM_CHAR, static_cast<unsigned char>(literal), 0);
+        m_maskBusy = false;
+        ++start;
+        if (start >= m_mask.Length())
+            return false;
+    }
+    return m_mask.Accepts(start, character);
+}
+
+void CUGEdit::OnChar(UINT key, UINT, UINT) {
+    if (m_maskBusy) {
+        Default();
+        return;
+    }
+    const bool printable = key >= ' ' && key != 127;
+    if (m_mask.IsOn() && printable && !PassMask(static_cast<char>(key)))
+        return;
+    const UINT typed = key;
+    if (!m_ctrl->OnEditVerify(m_ctrl->GetCurrentCol(), m_ctrl->GetCurrentRow(), this, &key))
+        return;
+    if (typed == VK_TAB || typed == VK_RETURN || GetSafeHwnd() == nullptr)
+        return;
+    if (key != typed)
+        DefWindowProc(WM_CHAR, key, 0);
+    else
+        Default();
+}
+
+void CUGEdit::OnSetFocus(CWnd *old) {
+    CEdit::OnSetFocus(old);
+    m_active = true;
+    m_focusSeen = true;
+}
+
+void CUGEdit::OnKillFocus(CWnd *next) {
+    CEdit::OnKillFocus(next);
+    if (m_ctrl->m_GI.m_suppressFinish || !m_focusSeen)
+        return;
+    m_mask.Set(nullptr);
+    Finish();
+    m_active = false;
+    if (GetSafeHwnd() != nullptr)
+        DestroyWindow();
+}
+
+// Tab moves on to the next cell, and Enter and Escape end the edit: a dialog must not take them.
+UINT CUGEdit::OnGetDlgCode() {
+    const MSG *message = reinterpret_cast<const MSG *>(AfxGetCurrentMessage()->lParam);
+    UINT code = static_cast<UINT>(Default());
+    if (message != nullptr && message->wParam == VK_TAB)
+        code |= DLGC_WANTTAB;
+    else if (message != nullptr && (message->wParam == VK_RETURN || message->wParam == VK_ESCAPE))
+        code |= DLGC_WANTALLKEYS;
+    return code;
+}
+
+void CUGEdit::OnUpdateText() {
+    if (m_mask.IsOn() && !m_maskBusy)
+        Reformat();
+}
+
+void CUGEdit::Reformat() {
+    CString text;
+    GetWindowText(text);
+    const std::string formatted = m_mask.Reformat(static_cast<const char *>(text));
+    if (formatted == static_cast<const char *>(text))
+        return;
+    int start, end;
+    GetSel(start, end);
+    m_maskBusy = true;
+    SetWindowText(formatted.c_str());
+    SetSel(start, end);
+    m_maskBusy = false;
+}

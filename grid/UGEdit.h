@@ -1,0 +1,45 @@
+// CUGEdit: the edit control that stands over a cell while its text is typed.
+//
+// It asks the control about every key, finishes into the cell, and moves on. Losing the focus finishes too.
+#pragma once
+
+#include <afxwin.h>
+
+#include "grid/UGEditMask.h"
+
+class CUGCell;
+class CUGCtrl;
+class CUGGrid;
+
+class ORVANE_API CUGEdit : public CEdit {
+    DECLARE_DYNAMIC(CUGEdit)
+
+public:
+    // Creates the window, hidden, over `rect` of the grid with the cell's text, limit and mask.
+    bool Open(DWORD style, const RECT &rect, CUGGrid *grid, const CUGCell &cell, HFONT defaultFont);
+    // Shows it with all selected; a key above 0 is typed into it.
+    void Show(int key);
+
+    bool m_active = false; // a finish is still owed
+
+private:
+    friend class CUGCtrl;
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnKeyUp(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnChar(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnSetFocus(CWnd *old);
+    afx_msg void OnKillFocus(CWnd *next);
+    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnUpdateText();
+
+    int Finish();
+    void FinishAndContinue(int dx, int dy);
+    bool PassMask(char character);
+    void Reformat();
+
+    CUGCtrl *m_ctrl = nullptr; // borrowed, set by Open
+    CUGEditMask m_mask;
+    bool m_maskBusy = false;   // the mask code itself is changing the text
+    bool m_focusSeen = false;
+};

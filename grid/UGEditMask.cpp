@@ -1,0 +1,73 @@
+#include "grid/UGEditMask.h"
+
+#include <cctype>
+
+namespace {
+
+constexpr const char *kMaskCharacters = "09#L?Aa&C";
+constexpr char kMark = 8; // stands in each string where the other one holds the character
+
+bool IsMaskCharacter(char c) {
+    return std::string(kMaskCharacters).find(c) != std::string::npos;
+}
+
+bool Matches(char kind, unsigned char c) {
+    switch (kind) {
+    case '#': return std::isdigit(c) || c == ' ' || c == 'k' || c == 'm';
+    case '&':
+    case 'C': return std::isprint(c) || c >= 0x80;
+    case '0': return std::isdigit(c);
+    case '9': return std::isdigit(c) || c == ' ';
+    case '?': return std::isalpha(c) || c == ' ';
+    case 'A': return std::isalnum(c);
+    case 'L': return std::isalpha(c);
+    case 'a': return std::isalnum(c) || c == ' ';
+    default: return true;
+    }
+}
+
+} // namespace
+
+void CUGEditMask::Set(const char *mask) {
+    m_kinds.clear();
+    m_literals.clear();
+    for (const char *c = mask; c != nullptr && *c != '\0'; ++c) {
+        const bool escaped = *c == '\\' && c[1] != '\0';
+        if (escaped)
+            ++c;
+        const bool input = !escaped && IsMaskCharacter(*c);
+        m_kinds += input ? *c : kMark;
+        m_literals += input ? kMark : *c;
+    }
+}
+
+char CUGEditMask::LiteralAt(int position) const {
+    if (position < 0 || position >= Length() || m_literals[position] == kMark)
+        return 0;
+    return m_literals[position];
+}
+
+bool CUGEditMask::Accepts(int position, char character) const {
+    return position >= 0 && position < Length() &&
+           Matches(m_kinds[position], static_cast<unsigned char>(character));
+}
+
+std::string CUGEditMask::Reformat(const std::string &text) const {
+    std::string result;
+    size_t next = 0;
+    for (int position = 0; position < Length() && next < text.size();) {
+        if (const char literal = LiteralAt(position)) {
+            result += literal;
+            // The text's own copy of the literal is not asked to match the position behind it.
+            if (text[next] == literal)
+                ++next;
+            ++position;
+        } else if (Accepts(position, text[next])) {
+            result += text[next++];
+            ++position;
+        } else {
+            ++next;
+        }
+    }
+    return result;
+}

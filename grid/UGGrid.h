@@ -1,0 +1,88 @@
+// CUGGrid: the cell area. It paints the visible cells and turns mouse and keys into moves and notifications.
+#pragma once
+
+#include <afxwin.h>
+
+#include "grid/UGCell.h"
+#include "grid/UGEdit.h"
+
+#include <utility>
+#include <vector>
+
+class CUGCellType;
+class CUGCtrl;
+class CUGGridInfo;
+
+class ORVANE_API CUGGrid : public CWnd {
+    DECLARE_DYNAMIC(CUGGrid)
+
+public:
+    // Shows a move of the current cell or the view: shifts the image where the view scrolled, so that only the
+    // exposed strip is drawn, and repaints the cells that ceased to be or became current.
+    void ShowMove();
+    // Marks every visible cell of the selected blocks for repaint.
+    void InvalidateSelection();
+    void SetDoubleBuffer(bool on);
+
+    CUGCtrl *m_ctrl = nullptr; // both borrowed, set by the control
+    CUGGridInfo *m_GI = nullptr;
+    CUGEdit m_edit;
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT &create) override;
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC *dc);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnSetFocus(CWnd *old);
+    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnKeyUp(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnChar(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnRButtonDown(UINT flags, CPoint point);
+    afx_msg void OnRButtonUp(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd *next);
+
+private:
+    // What a paint pass needs beside the device context.
+    struct Pass {
+        CDC *dc;
+        RECT clip;
+        std::vector<std::pair<int, long>> joinsDrawn; // origins of the blocks that stand already
+    };
+    void DrawAll(CDC *dc, const RECT &clip);
+    void DrawRow(Pass &pass, long row, int top, int bottom);
+    void DrawCell(Pass &pass, int col, long row, RECT rect);
+    void DrawJoined(Pass &pass, int col, long row);
+    void FillBeyond(CDC *dc, int right, int bottom);
+    void DrawFocusFrame(CDC *dc);
+    void PaintBuffered(CDC *dc, const RECT &clip);
+    void RequestRowsBelow(long lastDrawn);
+    void InvalidateCurrent(int col, long row);
+    bool ScrollImage(int dx, int dy);
+
+    void GoByMouse(int moveType, int col, long row);
+    int PressOnType(int col, long row, RECT *rect, POINT *point);
+    void DragTo(CPoint point);
+    void DragScroll(CPoint point);
+    bool DragStep(CPoint point);
+
+    CUGCell m_cell; // scratch cell of the paint
+    CUGCellType *m_tracker = nullptr; // the type that wants the mouse moves; borrowed
+    CBitmap m_buffer;
+    CSize m_bufferSize{0, 0};
+    bool m_doubleBuffer = false;
+    bool m_captured = false;
+    bool m_dragScrolling = false;
+    int m_wheelRest = 0;
+    // As last shown, to tell what moved since.
+    int m_shownCol = 0;
+    long m_shownRow = 0;
+    int m_shownLeft = 0;
+    long m_shownTop = 0;
+};

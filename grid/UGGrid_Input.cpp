@@ -1,0 +1,250 @@
+// Keys and mouse in the cell area.
+#include "grid/UGCtrl.h"
+
+#include "grid/UGDragScroll.h"
+
+#include <algorithm>
+
+void CUGGrid::OnSetFocus(CWnd *old) {
+    CWnd::OnSetFocus(old);
+}
+
+UINT CUGGrid::OnGetDlgCode() {
+    return DLGC_WANTALLKEYS | DLGC_WANTARROWS | DLGC_WANTCHARS | DLGC_WANTTAB;
+}
+
+namespace {
+
+struct KeyMove {
+    UINT key;
+    bool ctrl;
+    int (CUGCtrl::*move)(int how);
+    int how;
+};
+
+constexpr KeyMove kKeyMoves[] = {
+    {VK_LEFT, false, &CUGCtrl::MoveCurrentCol, UG_MOVE_BACK},
+    {VK_LEFT, true, &CUGCtrl::MoveCurrentCol, UG_MOVE_BACK},
+    {VK_RIGHT, false, &CUGCtrl::MoveCurrentCol, UG_MOVE_FORWARD},
+    {VK_RIGHT, true, &CUGCtrl::MoveCurrentCol, UG_MOVE_FORWARD},
+    {VK_UP, false, &CUGCtrl::MoveCurrentRow, UG_MOVE_BACK},
+    {VK_UP, true, &CUGCtrl::MoveCurrentRow, UG_MOVE_BACK},
+    {VK_DOWN, false, &CUGCtrl::MoveCurrentRow, UG_MOVE_FORWARD},
+    {VK_DOWN, true, &CUGCtrl::MoveCurrentRow, UG_MOVE_FORWARD},
+    {VK_PRIOR, false, &CUGCtrl::MoveCurrentRow, UG_MOVE_PAGE_BACK},
+    {VK_PRIOR, true, &CUGCtrl::MoveCurrentRow, UG_MOVE_PAGE_BACK},
+    {VK_NEXT, false, &CUGCtrl::MoveCurrentRow, UG_MOVE_PAGE_FORWARD},
+    {VK_NEXT, true, &CUGCtrl::MoveCurrentRow, UG_MOVE_PAGE_FORWARD},
+    {VK_HOME, false, &CUGCtrl::MoveCurrentCol, UG_MOVE_FIRST},
+    {VK_HOME, true, &CUGCtrl::MoveCurrentRow, UG_MOVE_FIRST},
+    {VK_END, false, &CUGCtrl::MoveCurrentCol, UG_MOVE_LAST},
+    {VK_END, true, &CUGCtrl::MoveCurrentRow, UG_MOVE_LAST},
+};
+
+} // namespace
+
+void CUGGrid::OnKeyDown(UINT key, UINT, UINT) {
+    const int processed = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType())->OnKeyDown(&key);
+    m_ctrl->OnKeyDown(&key, processed);
+    const bool ctrl = (::GetKeyState(VK_CONTROL) & 0x8000) != 0;
+    for (const KeyMove &entry : kKeyMoves) {
+        if (entry.key == key && entry.ctrl == ctrl) {
+            m_GI->m_moveType = UG_MOVED_BY_KEY;
+            (m_ctrl->*entry.move)(entry.how);
+            m_GI->m_moveType = UG_MOVED_BY_PROGRAM;
+            break;
+        }
+    }
+}
+
+void CUGGrid::OnKeyUp(UINT key, UINT, UINT) {
+    m_ctrl->OnKeyUp(&key, 0);
+}
+
+void CUGGrid::OnChar(UINT key, UINT, UINT) {
+    const int processed = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType())->OnCharDown(&key);
+    m_ctrl->OnCharDown(&key, processed);
+}
+
+// The cell that the mouse names becomes current without the view scrolling under the pointer.
+void CUGGrid::GoByMouse(int moveType, int col, long row) {
+    m_GI->m_moveType = moveType;
+    m_GI->m_scrollMargin = 0;
+    m_ctrl->GotoCell(col, row);
+    m_GI->m_scrollMargin = 1;
+    m_GI->m_moveType = UG_MOVED_BY_PROGRAM;
+}
+
+int CUGGrid::PressOnType(int col, long row, RECT *rect, POINT *point) {
+    if (col != m_ctrl->GetCurrentCol() || row != m_ctrl->GetCurrentRow())
+        return 0;
+    CUGCellType *type = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType());
+    const int processed = type->OnLClicked(col, row, 1, rect, point);
+    if (processed == UGCT_HANDLED)
+        m_tracker = type;
+    return processed;
+}
+
+void CUGGrid::OnLButtonDown(UINT, CPoint point) {
+    SetFocus();
+    int col;
+    long row;
+    RECT rect{};
+    int processed = 0;
+    if (m_ctrl->GetCellFromPoint(point.x, point.y, &col, &row, &rect) == GRID_SUCCESS) {
+        GoByMouse(UG_MOVED_BY_CLICK, col, row);
+        m_ctrl->GetCellRect(col, row, &rect);
+        processed = PressOnType(col, row, &rect, &point);
+    } else {
+        col = -1;
+        row = -1;
+    }
+    m_ctrl->OnLClicked(col, row, 1, &rect, &point, processed);
+    SetCapture();
+    m_captured = true;
+}
+
+void CUGGrid::OnLButtonUp(UINT, CPoint point) {
+    if (!m_captured)
+        return;
+    m_captured = false;
+    int col;
+    long row;
+    RECT rect{};
+    int processed = 0;
+    CUGCellType *tracker = std::exchange(m_tracker, nullptr);
+    if (m_ctrl->GetCellFromPoint(point.x, point.y, &col, &row, &rect) == GRID_SUCCESS) {
+        if (tracker == nullptr)
+            GoByMouse(UG_MOVED_BY_DRAG, col, row);
+        m_ctrl->BringCurrentIntoView();
+        m_ctrl->GetCellRect(col, row, &rect);
+    }
+    CUGCellType *type = tracker != nullptr ? tracker : m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType());
+    processed = type->OnLClicked(col, row, 0, &rect, &point);
+    m_ctrl->OnLClicked(col, row, 0, &rect, &point, processed);
+    if (GetCapture() == this)
+        ReleaseCapture();
+}
+
+void CUGGrid::OnLButtonDblClk(UINT, CPoint point) {
+    int col;
+    long row;
+    RECT rect{};
+    int processed = 0;
+    m_ctrl->GetCellFromPoint(point.x, point.y, &col, &row, &rect);
+    if (col >= 0 && col == m_ctrl->GetCurrentCol() && row == m_ctrl->GetCurrentRow())
+        processed = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType())->OnDClicked(col, row, &rect, &point);
+    m_ctrl->OnDClicked(col, row, &rect, &point, processed);
+}
+
+void CUGGrid::OnRButtonDown(UINT, CPoint point) {
+    SetFocus();
+    int col;
+    long row;
+    RECT rect{};
+    int processed = 0;
+    if (m_ctrl->GetCellFromPoint(point.x, point.y, &col, &row, &rect) == GRID_SUCCESS) {
+        GoByMouse(UG_MOVED_BY_CLICK, col, row);
+        m_ctrl->GetCellRect(col, row, &rect);
+        if (col == m_ctrl->GetCurrentCol() && row == m_ctrl->GetCurrentRow())
+            processed = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType())
+                            ->OnRClicked(col, row, 1, &rect, &point);
+    }
+    m_ctrl->OnRClicked(col, row, 1, &rect, &point, processed);
+    CPoint screen = point;
+    ClientToScreen(&screen);
+    m_ctrl->ShowPopupMenu(col, row, UG_SECTION_GRID, screen);
+}
+
+void CUGGrid::OnRButtonUp(UINT, CPoint point) {
+    int col;
+    long row;
+    RECT rect{};
+    m_ctrl->GetCellFromPoint(point.x, point.y, &col, &row, &rect);
+    m_ctrl->OnRClicked(col, row, 0, &rect, &point, 0);
+}
+
+void CUGGrid::OnMouseMove(UINT flags, CPoint point) {
+    if (!m_captured || !(flags & MK_LBUTTON) || GetCapture() != this)
+        return;
+    if (m_tracker != nullptr) {
+        m_tracker->OnMouseMove(&point, flags);
+        return;
+    }
+    CRect client;
+    GetClientRect(&client);
+    if (client.PtInRect(point))
+        DragTo(point);
+    else if (!m_dragScrolling)
+        DragScroll(point);
+}
+
+void CUGGrid::DragTo(CPoint point) {
+    int col;
+    long row;
+    if (m_ctrl->GetCellFromPoint(point.x, point.y, &col, &row) == GRID_SUCCESS)
+        GoByMouse(UG_MOVED_BY_DRAG, col, row);
+}
+
+// Scrolls while the pointer stays outside; ends with the next move or release of the mouse, which stays in the
+// queue for its own handler.
+void CUGGrid::DragScroll(CPoint point) {
+    m_dragScrolling = true;
+    MSG message;
+    const HWND window = m_hWnd;
+    while (::IsWindow(window)) {
+        if (::PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
+            if (message.message == WM_MOUSEMOVE || message.message == WM_LBUTTONUP ||
+                message.message == WM_QUIT)
+                break;
+            if (::PeekMessageA(&message, nullptr, message.message, message.message, PM_REMOVE)) {
+                ::TranslateMessage(&message);
+                ::DispatchMessageA(&message);
+            }
+            if (::GetCapture() != window)
+                break;
+            continue;
+        }
+        if (!DragStep(point))
+            ::WaitMessage();
+    }
+    m_dragScrolling = false;
+}
+
+// One step of the drag scrolling; false when there is nothing further to go to.
+bool CUGGrid::DragStep(CPoint point) {
+    const long stepCols = UGDragSteps(point.x, m_GI->m_cols.m_extent, m_GI->m_cols.m_defaultSize / 2,
+                                      m_GI->m_ballisticMode, false);
+    const long stepRows = UGDragSteps(point.y, m_GI->m_rows.m_extent, m_GI->m_rows.m_defaultSize,
+                                      m_GI->m_ballisticMode, true);
+    const int col = static_cast<int>(std::clamp(m_GI->m_cols.m_current + stepCols, 0L, m_GI->m_cols.m_count - 1));
+    const long row = std::clamp(m_GI->m_rows.m_current + stepRows, 0L, m_GI->m_rows.m_count - 1);
+    if (col == m_GI->m_cols.m_current && row == m_GI->m_rows.m_current)
+        return false;
+    m_GI->m_moveType = UG_MOVED_BY_DRAG;
+    m_ctrl->GotoCell(col, row);
+    m_GI->m_moveType = UG_MOVED_BY_PROGRAM;
+    UpdateWindow();
+    ::Sleep(m_GI->m_ballisticDelay);
+    return true;
+}
+
+BOOL CUGGrid::OnMouseWheel(UINT, short delta, CPoint) {
+    UINT lines = 3;
+    ::SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    m_wheelRest += delta;
+    const int notches = m_wheelRest / WHEEL_DELTA;
+    m_wheelRest -= notches * WHEEL_DELTA;
+    const bool back = notches > 0;
+    const bool pages = lines == WHEEL_PAGESCROLL;
+    const int steps = std::abs(notches) * (pages ? 1 : static_cast<int>(lines));
+    for (int i = 0; i < steps; ++i)
+        m_ctrl->m_vScroll.HandleScroll(pages ? (back ? SB_PAGEUP : SB_PAGEDOWN) : (back ? SB_LINEUP : SB_LINEDOWN));
+    return TRUE;
+}
+
+void CUGGrid::OnCaptureChanged(CWnd *next) {
+    if (next != this)
+        m_captured = m_captured && ::GetCapture() == m_hWnd;
+    CWnd::OnCaptureChanged(next);
+}
