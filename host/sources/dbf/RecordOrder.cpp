@@ -15,7 +15,9 @@ struct RecordOrder::Node {
 static constexpr std::size_t kNodesPerOperation = 2;
 
 // By way of the other constructor, so that the destructor runs when memory fails in here.
-RecordOrder::RecordOrder(Row count) : RecordOrder() { insert(0, 0, count); }
+RecordOrder::RecordOrder(Row count) : RecordOrder() {
+    insert(0, 0, count);
+}
 
 RecordOrder::RecordOrder(RecordOrder &&other) noexcept {
     *this = std::move(other);

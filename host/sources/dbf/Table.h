@@ -76,6 +76,8 @@ public:
     // something to undo exactly while it is modified. After a failure the old file and all changes are still
     // there. A file that somebody else changed since it was read is only overwritten when told so.
     Result save(bool overwriteForeign = false);
+    // Has the file on the disk been changed by somebody else since it was read?
+    bool isForeign() const;
     // Writes the table to another file, with its memo file, and goes on with that file. With a predicate only
     // the rows for which it is true are written and remain.
     Result saveAs(const std::string &path, const RowPredicate &keep = {}, bool overwriteForeign = false);
@@ -92,7 +94,6 @@ private:
     void changeBytes(std::uint64_t number, std::size_t offset, const void *bytes, std::size_t width) noexcept;
     void applyBytes(EditHistory::Group &group, const EditHistory::Step &step) noexcept;
 
-    Result checkForeign() const;
     std::vector<std::uint8_t> headerFor(Row count) const;
     Result writeRecords(FileWriter &writer, const RowPredicate &keep) const;
     Result writeTable(SaveJob &job, const RowPredicate &keep) const;

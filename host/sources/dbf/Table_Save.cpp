@@ -128,14 +128,9 @@ Result Table::SaveJob::putInPlace() {
     return placed;
 }
 
-Result Table::checkForeign() const {
+bool Table::isForeign() const {
     FileStamp now;
-    if (files_->stat(path_, now) && now != file_->stamp()) {
-        return Result::failure("\"" + path_ +
-                               "\" was changed by another program since it was opened; it is not "
-                               "overwritten");
-    }
-    return Result::success();
+    return files_->stat(path_, now) && now != file_->stamp();
 }
 
 // The header of the file with the count of records, the date and what is no longer true changed.
@@ -224,10 +219,9 @@ Result Table::saveTo(const std::string &path, const RowPredicate &keep, bool ove
     if (Result open = ensureOpen(); !open) {
         return open;
     }
-    if (path == path_ && !overwriteForeign) {
-        if (Result unchanged = checkForeign(); !unchanged) {
-            return unchanged;
-        }
+    if (path == path_ && !overwriteForeign && isForeign()) {
+        return Result::failure(
+            "\"" + path_ + "\" was changed by another program since it was opened; it is not overwritten");
     }
     SaveJob job(*files_, path);
     if (Result memo = writeMemo(job); !memo) {
