@@ -70,22 +70,28 @@ void CDbfDataSource::Tell(const std::string &message) const {
     }
 }
 
-// Runs a change of the table and tells of its failure. No exception leaves, since the callers stand in window
-// procedures.
+// Runs work that answers a result code. No exception leaves, since the callers stand in window procedures.
+template <class Work> int CDbfDataSource::Guarded(Work work) const {
+    try {
+        return work();
+    } catch (const std::bad_alloc &) {
+        Tell(m_lowMemory);
+        return GRID_ERROR;
+    }
+}
+
+// Runs a change of the table and tells of its failure.
 template <class Change> int CDbfDataSource::Carry(Change change) {
     if (!m_table) {
         return GRID_ERROR;
     }
-    try {
+    return Guarded([&]() -> int {
         const dbf::Result result = change(*m_table);
         if (!result) {
             Tell(result.message);
         }
         return result ? GRID_SUCCESS : GRID_ERROR;
-    } catch (const std::bad_alloc &) {
-        Tell(m_lowMemory);
-        return GRID_ERROR;
-    }
+    });
 }
 
 const dbf::Field *CDbfDataSource::FieldAt(int col) const {
@@ -94,7 +100,7 @@ const dbf::Field *CDbfDataSource::FieldAt(int col) const {
 }
 
 int CDbfDataSource::Open(const char *name, const char *options) {
-    try {
+    return Guarded([&]() -> int {
         dbf::OpenOptions how;
         how.readOnly = asksForViewing(options);
         std::unique_ptr<dbf::Table> table;
@@ -104,17 +110,18 @@ int CDbfDataSource::Open(const char *name, const char *options) {
         }
         m_table = std::move(table);
         m_findNext = 0;
-        std::string odd;
-        for (const std::string &warning : m_table->openWarnings()) {
-            odd += (odd.empty() ? "" : "\n") + warning;
-        }
-        if (!odd.empty()) {
-            Tell("\"" + m_table->path() + "\":\n\n" + odd);
-        }
+        TellWarnings();
         return GRID_SUCCESS;
-    } catch (const std::bad_alloc &) {
-        Tell(m_lowMemory);
-        return GRID_ERROR;
+    });
+}
+
+void CDbfDataSource::TellWarnings() const {
+    std::string odd;
+    for (const std::string &warning : m_table->openWarnings()) {
+        odd += "\n" + warning;
+    }
+    if (!odd.empty()) {
+        Tell("\"" + m_table->path() + "\":\n" + odd);
     }
 }
 
@@ -232,15 +239,17 @@ int CDbfDataSource::GetCell(int col, long row, CUGCell *cell) {
     if (!field || row < 0 || static_cast<dbf::Table::Row>(row) >= m_table->rowCount()) {
         return GRID_ERROR;
     }
-    const std::string text =
-        m_table->cellText(static_cast<dbf::Table::Row>(row), static_cast<std::size_t>(col));
-    if (!text.empty()) { // an empty text is no property to merge
-        cell->SetText(text.c_str());
-    }
-    if (!field->isEditable()) {
-        cell->SetReadOnly(1);
-    }
-    return GRID_SUCCESS;
+    return Guarded([&]() -> int {
+        const std::string text =
+            m_table->cellText(static_cast<dbf::Table::Row>(row), static_cast<std::size_t>(col));
+        if (!text.empty()) { // an empty text is no property to merge
+            cell->SetText(text.c_str());
+        }
+        if (!field->isEditable()) {
+            cell->SetReadOnly(1);
+        }
+        return GRID_SUCCESS;
+    });
 }
 
 int CDbfDataSource::SetCell(int col, long row, CUGCell *cell) {
@@ -274,7 +283,7 @@ int CDbfDataSource::FindFirst(int col, const char *text, long *row) {
 }
 
 int CDbfDataSource::FindNext(int col, const char *text, long *row) {
-    return FindFrom(m_findNext, col, text, row);
+    return Guarded([&] { return FindFrom(m_findNext, col, text, row); });
 }
 
 int CDbfDataSource::GetOption(int option, void *value1, void *) {

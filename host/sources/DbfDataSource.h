@@ -82,11 +82,13 @@ public:
     bool CanRedo() override;
 
 private:
+    template <class Work> int Guarded(Work work) const;
     template <class Change> int Carry(Change change);
     template <class Step> void Travel(Step step);
     const dbf::Field *FieldAt(int col) const;
     int FindFrom(dbf::Table::Row row, int col, const char *text, long *found);
     void Tell(const std::string &message) const;
+    void TellWarnings() const;
 
     Hooks m_hooks;
     std::unique_ptr<dbf::Table> m_table;
