@@ -4,6 +4,7 @@
 #include "DecimalText.h"
 #include "Endian.h"
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
 #include <cstdio>

@@ -79,7 +79,8 @@ public:
     // Has the file on the disk been changed by somebody else since it was read?
     bool isForeign() const;
     // Writes the table to another file, with its memo file, and goes on with that file. With a predicate only
-    // the rows for which it is true are written and remain.
+    // the rows for which it is true are written and remain; it is asked twice for each row and must answer
+    // the same both times.
     Result saveAs(const std::string &path, const RowPredicate &keep = {}, bool overwriteForeign = false);
 
 private:

@@ -51,6 +51,20 @@ TEST(DbfSave, WritesChangedRecordsAndLeavesTheOthersAsTheyWere) {
     EXPECT_EQ(fileNames(files), "t.dbf t.dbt ");
 }
 
+// The worked example of docs/formats-dbf.md.
+TEST(DbfSave, WritesTheWorkedExample) {
+    MemoryFiles files;
+    const auto table = openBytes(files, header(0x03, 0, 8, descriptor("PAY", 'N', 7, 2), 0x03));
+    ASSERT_TRUE(table->appendRows(1));
+    ASSERT_TRUE(table->setCellText(0, 0, "-99.5"));
+    ASSERT_TRUE(table->save());
+    const std::string expected =
+        raw("\x03\x7E\x0B\x15\x01\x00\x00\x00\x41\x00\x08\x00") + std::string(17, '\0') +
+        raw("\x03\x00\x00PAY\0\0\0\0\0\0\0\0N\0\0\0\0\x07\x02") + std::string(14, '\0') + "\x0D  -99.50\x1A";
+    EXPECT_EQ(files.files["t.dbf"], expected);
+    EXPECT_EQ(expected.size(), 74u);
+}
+
 TEST(DbfSave, WritesRowsInTheirOrder) {
     MemoryFiles files;
     const auto table = openBytes(files, people());
