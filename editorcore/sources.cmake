@@ -1,7 +1,29 @@
 # What needs no window, compiled natively too.
-set(EDITORCORE_MODEL_SOURCES)
+set(EDITORCORE_MODEL_SOURCES
+    CommandList.cpp
+    EditorLayout.cpp
+    TableInfo.cpp
+)
 
-# The windows and what draws.
-set(EDITORCORE_WINDOW_SOURCES)
+# The editor in its window.
+set(EDITORCORE_WINDOW_SOURCES
+    ColumnCellTypeMap.cpp
+    EditCommandGuard.cpp
+    EditorCore_Cells.cpp
+    EditorCore_Editing.cpp
+    EditorCore_Fonts.cpp
+    EditorCore_Frame.cpp
+    EditorCore_History.cpp
+    EditorCore_Keys.cpp
+    EditorCore_Layout.cpp
+    EditorCore_Load.cpp
+    EditorCore_Rows.cpp
+    EditorCore_Save.cpp
+    EditorCore_Sizing.cpp
+    EditorLayout_Grid.cpp
+    LibraryModule.cpp
+    OrvaneCtrlInterfaceLayer.cpp
+    ResourceScope.cpp
+)
 list(TRANSFORM EDITORCORE_MODEL_SOURCES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
 list(TRANSFORM EDITORCORE_WINDOW_SOURCES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)

@@ -247,6 +247,11 @@ protected:
     BOOL PreCreateWindow(CREATESTRUCT &create) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
+    // Gives the columns the widest width that their cells need from the top row over `rows` rows, as `read`
+    // gives the cells. GRID_ERROR when the range is empty.
+    using CellReader = int (CUGCtrl::*)(int col, long row, CUGCell *cell);
+    int FitColumns(int firstCol, int lastCol, int rows, CellReader read);
+
     CUGGrid m_grid;
     CUGTopHdg m_topHdg;
     CUGSideHdg m_sideHdg;

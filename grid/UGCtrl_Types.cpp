@@ -43,7 +43,7 @@ int CUGCtrl::RemoveCellType(long id) {
     return GRID_ERROR;
 }
 
-int CUGCtrl::BestFit(int firstCol, int lastCol, int rows) {
+int CUGCtrl::FitColumns(int firstCol, int lastCol, int rows, CellReader read) {
     lastCol = std::min(lastCol, GetNumberCols() - 1);
     if (firstCol > lastCol)
         return GRID_ERROR;
@@ -53,7 +53,8 @@ int CUGCtrl::BestFit(int firstCol, int lastCol, int rows) {
     CUGCell cell;
     for (long row = GetTopRow(); row <= lastRow; ++row) {
         for (int col = firstCol; col <= lastCol; ++col) {
-            GetCellRaw(col, row, &cell);
+            cell.ClearAll();
+            (this->*read)(col, row, &cell);
             SIZE size{};
             GetCellType(cell.GetCellType())->GetBestSize(dc, &size, &cell);
             widths[col - firstCol] = std::max<long>(widths[col - firstCol], size.cx);
@@ -65,4 +66,8 @@ int CUGCtrl::BestFit(int firstCol, int lastCol, int rows) {
     AdjustAxis(m_GI.m_cols);
     RedrawAll();
     return GRID_SUCCESS;
+}
+
+int CUGCtrl::BestFit(int firstCol, int lastCol, int rows) {
+    return FitColumns(firstCol, lastCol, rows, &CUGCtrl::GetCellRaw);
 }

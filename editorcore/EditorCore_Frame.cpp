@@ -1,0 +1,195 @@
+// The editor's life: settings shared by all, construction, set-up and destruction.
+#include "editorcore/EditorCore.h"
+
+IMPLEMENT_DYNAMIC(CEditorCore, CUGOrvaneCtrlInterfaceLayer)
+
+BEGIN_MESSAGE_MAP(CEditorCore, CUGOrvaneCtrlInterfaceLayer)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+namespace {
+
+constexpr COLORREF kGridLineColour = 0xC0C0C0;
+
+} // namespace
+
+CVAppInterface *CEditorCore::ms_pAppInterface = nullptr;
+bool CEditorCore::ms_bInitCalled = false;
+bool CEditorCore::ms_bEnterKeyIsTab = false;
+int CEditorCore::ms_nMaxDisplayColWidth = 10;
+LOGFONTA CEditorCore::ms_lfCellFont = {};
+LOGFONTA CEditorCore::ms_lfHeadingFont = {};
+CFont *CEditorCore::ms_pCellFont = nullptr;
+CFont *CEditorCore::ms_pHeadingFont = nullptr;
+CArray<CEditorCore *, CEditorCore *> CEditorCore::m_InstanceList;
+
+void CEditorCore::Initialise(CVAppInterface *host) {
+    ms_bInitCalled = true;
+    ms_pAppInterface = host;
+    CVEditorOptions *options = host->GetEditorOptions();
+    options->GetCellFont(&ms_lfCellFont);
+    options->GetHeadingFont(&ms_lfHeadingFont);
+    ms_nMaxDisplayColWidth = options->GetMaxDisplayColWidth();
+    ms_bEnterKeyIsTab = options->IsEnterKeyTab();
+}
+
+void CEditorCore::SetEnterKey(bool isTab) {
+    ms_bEnterKeyIsTab = isTab;
+    ms_pAppInterface->GetEditorOptions()->SetEnterKeyTab(isTab);
+}
+
+bool CEditorCore::ToggleEnterKey() {
+    SetEnterKey(!ms_bEnterKeyIsTab);
+    return ms_bEnterKeyIsTab;
+}
+
+CEditorCore::CEditorCore() {
+    try {
+        MakeParts();
+    } catch (CMemoryException *e) {
+        e->Delete();
+        DeleteParts();
+        ReportOutOfMemory();
+        m_bConstructFailed = true;
+    }
+}
+
+void CEditorCore::MakeParts() {
+    CVEditorOptions *options = ms_pAppInterface->GetEditorOptions();
+    m_pCommandList = new CCommandListMgr(options->GetUndoLevels());
+    m_pLayout = new CEditorLayout(this);
+    m_pColCellTypes = new CColumnCellTypeMap(this);
+    m_InstanceList.Add(this);
+}
+
+void CEditorCore::DeleteParts() {
+    delete m_pLayout;
+    m_pLayout = nullptr;
+    delete m_pCommandList;
+    m_pCommandList = nullptr;
+    delete m_pColCellTypes;
+    m_pColCellTypes = nullptr;
+}
+
+void CEditorCore::ReportOutOfMemory() {
+    AfxMessageBox("Out of memory!", MB_ICONHAND, 0);
+}
+
+CEditorCore::~CEditorCore() {
+    if (m_bLayoutValid && m_bAutoSaveLayout)
+        Serialize(true);
+    DeleteParts();
+    DropSource();
+    for (int i = 0; i < m_InstanceList.GetSize(); ++i) {
+        if (m_InstanceList.GetAt(i) == this) {
+            m_InstanceList.RemoveAt(i);
+            break;
+        }
+    }
+    if (m_InstanceList.GetSize() == 0) {
+        delete ms_pCellFont;
+        ms_pCellFont = nullptr;
+        delete ms_pHeadingFont;
+        ms_pHeadingFont = nullptr;
+    }
+    m_GI.m_paintingEnabled = 0;
+    m_GridLinePen.DeleteObject();
+    if (GetSafeHwnd() != nullptr)
+        DestroyWindow();
+}
+
+// The source goes without being asked: nobody is left who could heed a refusal.
+void CEditorCore::DropSource() {
+    if (m_nDataSrcIndex == -1)
+        return;
+    CUGDataSource *source = GetDataSource(m_nDataSrcIndex);
+    if (source != nullptr && source != GetDataSource(0)) {
+        if (m_bDataSrcOpen)
+            source->Close(false);
+        m_bDataSrcOpen = false;
+        RemoveDataSource(m_nDataSrcIndex);
+        m_GI.m_currentSource = 0;
+        delete source;
+    }
+    m_nDataSrcIndex = -1;
+}
+
+void CEditorCore::OnDestroy() {
+    if (m_bDataSrcOpen)
+        CloseDataSource(false);
+    CUGOrvaneCtrlInterfaceLayer::OnDestroy();
+}
+
+void CEditorCore::MakeSharedFont(CFont **font, const LOGFONTA &description) {
+    if (*font != nullptr)
+        return;
+    *font = new CFont;
+    if (!(*font)->CreateFontIndirect(&description)) {
+        delete *font;
+        *font = nullptr;
+    }
+}
+
+void CEditorCore::OnSetup() {
+    EnableMultiSelect(1);
+    EnableColTranslation(1);
+    SetCurrentCellStyle(2);
+    SetBallisticMode(3);
+    SetVScrollMode(1);
+    SetHScrollMode(1);
+    SetUniformRowHeight(1);
+    if (ms_bInitCalled) {
+        MakeSharedFont(&ms_pCellFont, ms_lfCellFont);
+        MakeSharedFont(&ms_pHeadingFont, ms_lfHeadingFont);
+    }
+    SetDefaultFont(ms_pCellFont);
+    CUGCell cell;
+    GetHeadingDefault(&cell);
+    cell.SetFont(ms_pHeadingFont);
+    SetHeadingDefault(&cell);
+    GetGridDefault(&cell);
+    m_clrDefaultBack = static_cast<int>(cell.GetBackColor());
+    m_clrDefaultText = static_cast<int>(cell.GetTextColor());
+    m_nDefaultBorderStyle = cell.GetBorder();
+    m_bGridLinePenMade = m_GridLinePen.CreatePen(PS_SOLID, 1, kGridLineColour) != FALSE;
+    if (m_bGridLinePenMade) {
+        CVEditorOptions *options = ms_pAppInterface->GetEditorOptions();
+        cell.SetBorderColor(&m_GridLinePen);
+        cell.SetTextColor(options->GetCellTextColour());
+        cell.SetHBackColor(options->GetCellHighlightColour());
+        SetGridDefault(&cell);
+    }
+}
+
+bool CEditorCore::RecPassesFilter(long) {
+    return true;
+}
+
+bool CEditorCore::IsUsingFilteredRecords() {
+    return false;
+}
+
+void CEditorCore::ReservedEditorOperation1() {}
+
+bool CEditorCore::IsFilterAttached() {
+    return false;
+}
+
+void CEditorCore::ReservedEditorOperation2() {}
+
+void CEditorCore::SetCustomOptions() {}
+
+void CEditorCore::OnParentActivate(int, CView *, CView *) {}
+
+void CEditorCore::SetTextAlignment() {}
+
+void CEditorCore::SetEditorCoreOptions(int undoLevels, int maxDisplayColWidth, bool enterKeyIsTab) {
+    m_pCommandList->SetMaxCommands(undoLevels);
+    ms_nMaxDisplayColWidth = maxDisplayColWidth;
+    ms_bEnterKeyIsTab = enterKeyIsTab;
+}
+
+void CEditorCore::PostCommandsChanged() {
+    if (CWnd *parent = GetParent())
+        parent->PostMessage(kMsgCommandsChanged, 0, 0);
+}

@@ -1,0 +1,77 @@
+// Undo in three tiers, tried in a fixed order: the edit box, the history of the view, the source's data.
+#include "editorcore/EditorCore.h"
+
+namespace {
+
+bool CanEditBoxUndo(CEdit *edit) {
+    return edit != nullptr && edit->SendMessage(EM_CANUNDO, 0, 0) != 0;
+}
+
+} // namespace
+
+void CEditorCore::Undo() {
+    CEdit *edit = GetEditControl();
+    if (CanEditBoxUndo(edit) && !m_bEditUndone) {
+        m_bEditUndone = true;
+        edit->SendMessage(EM_UNDO, 0, 0);
+        UpdateTitle();
+        return;
+    }
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    if (m_pCommandList->CanUndo()) {
+        m_pCommandList->Undo(true);
+        UpdateTitle();
+    } else if (source != nullptr && source->CanUndo()) {
+        source->Undo();
+    }
+    PostCommandsChanged();
+}
+
+void CEditorCore::Redo() {
+    CEdit *edit = GetEditControl();
+    if (CanEditBoxUndo(edit) && m_bEditUndone) {
+        edit->SendMessage(EM_UNDO, 0, 0); // the edit control's undo toggles
+        m_bEditUndone = false;
+        UpdateTitle();
+        return;
+    }
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    if (m_pCommandList->CanRedo()) {
+        m_pCommandList->Redo();
+        UpdateTitle();
+    } else if (source != nullptr && source->CanRedo()) {
+        source->Redo();
+    }
+    PostCommandsChanged();
+}
+
+bool CEditorCore::CanUndo() {
+    if (m_pCommandList->CanUndo())
+        return true;
+    if (!m_bEditUndone && CanEditBoxUndo(GetEditControl()))
+        return true;
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    return source != nullptr && source->CanUndo();
+}
+
+bool CEditorCore::CanRedo() {
+    if (GetEditControl() != nullptr && m_bEditUndone)
+        return true;
+    if (m_pCommandList->CanRedo())
+        return true;
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    return source != nullptr && source->CanRedo();
+}
+
+void CEditorCore::EmptyUndoList() {
+    if (m_pCommandList != nullptr)
+        m_pCommandList->Empty();
+}
+
+bool CEditorCore::AbortOperation() {
+    if (m_bAbortRequested) {
+        m_bAbortRequested = false;
+        return true;
+    }
+    return ms_pAppInterface->CheckAbort() != 0;
+}

@@ -1,0 +1,123 @@
+// The layout file beside the data file, and the layout of a table that has none yet.
+#include "editorcore/EditorCore.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kMeasuredRows = 100; // fitting must stay quick on very long tables
+constexpr int kDefaultRowHeightPx = 18;
+constexpr UINT kLayoutOpenFlags =
+    CFile::modeCreate | CFile::modeNoTruncate | CFile::modeReadWrite | CFile::typeBinary;
+
+} // namespace
+
+void CEditorCore::GetLayoutFileName(CString &path) {
+    const int dot = path.ReverseFind('.');
+    if (dot > 0)
+        path = path.Left(dot) + path.Mid(dot + 1);
+    path += ".@layout";
+}
+
+bool CEditorCore::Serialize(bool store) {
+    if (!m_bAutoSaveLayout || !FileExists(m_strFilePath))
+        return false;
+    CString name(m_strFilePath);
+    GetLayoutFileName(name);
+    CFile file;
+    if (!file.Open(name, kLayoutOpenFlags))
+        return false;
+    try {
+        if (!store && file.GetLength() == 0) {
+            file.Close();
+            return false;
+        }
+        if (store)
+            file.Seek(0, CFile::begin);
+    } catch (CFileException *e) {
+        e->Delete();
+        AfxMessageBox("CEditorCore::Serialize: Seek error", MB_ICONHAND, 0);
+        file.Abort();
+        return false;
+    }
+    m_bAutoSaveLayout = false;
+    try {
+        CArchive archive(&file, store ? CArchive::store : CArchive::load);
+        Serialize(archive);
+        archive.Close();
+        file.Flush();
+        file.Close();
+    } catch (CException *e) {
+        e->Delete(); // a layout that cannot be read gives way to a fresh one
+        file.Abort();
+    }
+    m_bAutoSaveLayout = true;
+    m_bLayoutValid = !store;
+    return m_pLayout->IsTableFound();
+}
+
+void CEditorCore::Serialize(CArchive &ar) {
+    if (!m_bAutoSaveLayout)
+        m_pLayout->Serialize(ar);
+}
+
+void CEditorCore::SetGridLayout() {
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    if (source == nullptr)
+        return;
+    EnablePainting(0);
+    if (!Serialize(false)) {
+        BuildDefaultLayout(true);
+    } else if (!m_pLayout->ApplyToGrid(source)) {
+        ms_pAppInterface->DoWaitCursor(1);
+        BuildDefaultLayout(false);
+        ms_pAppInterface->DoWaitCursor(-1);
+    }
+    m_bLayoutValid = true;
+    if (source->GetNumRows() == 0)
+        SetNumberRows(0, 1);
+    EnablePainting(1);
+}
+
+void CEditorCore::BuildDefaultLayout(bool setTranslations) {
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    EnablePainting(0);
+    SetGridUsingDataSource(m_nDataSrcIndex);
+    CUGCtrl::SetNumberRows(std::max(RowsOfSource(source), 0L), 1);
+    SetGridInitColWidths();
+    SetRowHeight(0, kDefaultRowHeightPx);
+    if (setTranslations) {
+        for (int col = 0; col < GetNumberCols(); ++col)
+            SetColTranslation(col, col);
+    }
+    EnablePainting(1);
+    m_pLayout->CaptureFromGrid();
+}
+
+int CEditorCore::HeadingMinimumWidth(int col, int maxCharWidth) {
+    CString heading;
+    GetColName(col, heading);
+    return std::max(heading.GetLength(), 1) * maxCharWidth;
+}
+
+void CEditorCore::SetGridInitColWidths() {
+    int maxCharWidth = 0;
+    if (CDC *dc = GetTopHeadingDC()) {
+        TEXTMETRICA metrics{};
+        ::GetTextMetricsA(dc->GetSafeHdc(), &metrics);
+        ReleaseTopHeadingDC(dc);
+        maxCharWidth = metrics.tmMaxCharWidth;
+    }
+    const int rows = static_cast<int>(std::min<long>(GetNumberRows(), kMeasuredRows));
+    for (int col = 0; col < GetNumberCols(); ++col) {
+        if (BestFit(col, col, rows) != GRID_SUCCESS)
+            return;
+        int width = 0;
+        GetColWidth(col, &width);
+        CUGCell cell;
+        GetCell(col, 0, &cell);
+        if (IsValidatingCell(cell.GetCellType()))
+            width += ::GetSystemMetrics(SM_CXVSCROLL); // room for the ellipsis button
+        SetColWidth(col, std::max(width, HeadingMinimumWidth(col, maxCharWidth)));
+    }
+}

@@ -1,0 +1,154 @@
+// Opening a table and closing it.
+#include "editorcore/EditorCore.h"
+
+// A source that is open, or null: the source itself has said why.
+CUGDataSource *CEditorCore::OpenSource(const char *path, const char *table, const char *options) {
+    CUGDataSource *source = ms_pAppInterface->CreateDataSource(path);
+    if (source == nullptr)
+        return nullptr;
+    if (m_bConstructFailed) {
+        // The source is not deleted here: an editor without its parts opens nothing, and hosts count on the
+        // object living on.
+        AfxMessageBox("Cannot load file due to low memory!", MB_ICONHAND, 0);
+        return nullptr;
+    }
+    if (m_bDataSrcOpen)
+        CloseDataSource(false);
+    if (m_bDataSrcOpen) {
+        delete source;
+        return nullptr;
+    }
+    // No separators go between the pieces: options and table name carry their own blanks.
+    CString openString(options);
+    if (table != nullptr) {
+        openString += "-table ";
+        openString += table;
+    }
+    if (m_nEditMode == kEditReadOnly)
+        openString += "-view ";
+    if (source->Open(path, openString) != GRID_SUCCESS) {
+        delete source;
+        return nullptr;
+    }
+    return source;
+}
+
+bool CEditorCore::LoadData(const char *path, const char *table, int editMode, const char *options) {
+    m_nEditMode = editMode;
+    CUGDataSource *source = OpenSource(path, table, options);
+    if (source == nullptr)
+        return false;
+    m_bDataSrcOpen = true;
+    int writable = 0, unused = 0;
+    if (source->GetOption(UGSRC_WRITABLE, &writable, &unused) == GRID_SUCCESS && writable == 0)
+        m_nEditMode = kEditReadOnly;
+    SetCapture(); // the mouse stays with the grid while the table comes up
+    m_nDataSrcIndex = AddDataSource(source);
+    SetDefaultDataSource(m_nDataSrcIndex);
+    m_strFilePath = path;
+    m_strTableName = table;
+    m_pLayout->SetTableName(m_strTableName);
+    m_bLayoutValid = false;
+    SetGridLayout();
+    EmptyUndoList();
+    PumpDroppingClicks();
+    ::ReleaseCapture();
+    GotoCell(0, 0);
+    RedrawAll();
+    SetCustomOptions();
+    SetTextAlignment();
+    SetFocus();
+    PostCommandsChanged();
+    return true;
+}
+
+// Clicks made while the table was loading never reach the grid.
+void CEditorCore::PumpDroppingClicks() {
+    MSG message;
+    while (::PeekMessageA(&message, m_grid.GetSafeHwnd(), 0, 0, PM_REMOVE)) {
+        if (message.message == WM_LBUTTONDBLCLK || message.message == WM_LBUTTONDOWN ||
+            message.message == WM_LBUTTONUP)
+            continue;
+        ::TranslateMessage(&message);
+        ::DispatchMessageA(&message);
+    }
+}
+
+bool CEditorCore::CloseDataSource(bool argument) {
+    if (!m_bDataSrcOpen)
+        return true;
+    if (GetEditControl() != nullptr)
+        SaveEditContents();
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    if (source == nullptr)
+        return true;
+    if (!m_bUsingBackupFile)
+        source->Save();
+    if (source->Close(argument) != GRID_SUCCESS)
+        return false;
+    m_bDataSrcOpen = false;
+    Serialize(true);
+    CUGCtrl::SetNumberRows(0, 0);
+    SetNumberCols(0);
+    m_GI.m_currentSource = 0;
+    RemoveDataSource(m_nDataSrcIndex);
+    delete source;
+    m_nDataSrcIndex = -1;
+    return true;
+}
+
+CUGDataSource *CEditorCore::GetCurrentDataSrc(bool complain) {
+    CUGDataSource *source = m_nDataSrcIndex < 0 ? nullptr : GetDataSource(m_nDataSrcIndex);
+    if (source == nullptr && complain)
+        AfxMessageBox("Could not get data source!", MB_ICONHAND, 0);
+    return source;
+}
+
+long CEditorCore::GetNumberRows() {
+    const long rows = CUGCtrl::GetNumberRows();
+    if (m_bDataSrcOpen && rows == 1) {
+        CUGDataSource *source = GetCurrentDataSrc(false);
+        if (source != nullptr && source->GetNumRows() == 0)
+            return 0;
+    }
+    return rows;
+}
+
+int CEditorCore::SetNumberRows(long rows, int redraw) {
+    return CUGCtrl::SetNumberRows(rows == 0 && m_bDataSrcOpen ? 1 : rows, redraw);
+}
+
+// The last row's index; -1 for the placeholder of an empty table.
+long CEditorCore::LastRowIndex() {
+    return GetNumberRows() - 1;
+}
+
+// The rows that the grid shows for the source.
+long CEditorCore::RowsOfSource(CUGDataSource *source) const {
+    const long rows = source->GetNumRows();
+    return rows == 0 && m_bDataSrcOpen ? 1 : rows;
+}
+
+bool CEditorCore::IsOperationsValid() {
+    return GetNumberRows() > 0;
+}
+
+int CEditorCore::GetTotalDataSrcFields() {
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    return source != nullptr ? source->GetNumCols() : 0;
+}
+
+// Message 0: the undo list is void. Message 1: the table changed under the editor.
+void CEditorCore::OnDataSourceNotify(int, long what, long) {
+    if (what == 0) {
+        EmptyUndoList();
+        return;
+    }
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    if (what != 1 || source == nullptr)
+        return;
+    EnablePainting(0);
+    CUGCtrl::SetNumberRows(RowsOfSource(source), 0);
+    EmptyUndoList();
+    EnablePainting(1);
+}

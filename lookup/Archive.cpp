@@ -1,0 +1,210 @@
+#include "lookup/Archive.h"
+
+#include "lookup/WideText.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+constexpr unsigned kLongCount = 0xFFFF; // the word in front of a count of four bytes
+constexpr BYTE kLongString = 0xFF;      // the byte in front of a length word
+constexpr WORD kWideMark = 0xFFFE;      // the length word of a wide string; its length starts over behind it
+constexpr WORD kLongerString = 0xFFFF;  // the length word in front of four bytes
+constexpr unsigned kLongestString = 0xFFFFFFFF; // the four bytes in front of eight
+
+void PutLittleEndian(BYTE *bytes, unsigned long long value, int count) {
+    for (int i = 0; i < count; ++i)
+        bytes[i] = static_cast<BYTE>(value >> (8 * i));
+}
+
+unsigned long long GetLittleEndian(const BYTE *bytes, int count) {
+    unsigned long long value = 0;
+    for (int i = count - 1; i >= 0; --i)
+        value = value << 8 | bytes[i];
+    return value;
+}
+
+} // namespace
+
+CArchive::CArchive(CFile *file, UINT mode, UINT bufferBytes)
+    : m_file(file), m_mode(mode), m_fileName(file->GetFilePath()),
+      m_buffer(std::max<UINT>(bufferBytes, 1)) {}
+
+CArchive::~CArchive() {
+    try {
+        Close();
+    } catch (CException *e) {
+        e->Delete();
+    }
+}
+
+void CArchive::Close() {
+    if (IsStoring())
+        Flush();
+}
+
+void CArchive::Flush() {
+    if (!IsStoring() || m_used == 0)
+        return;
+    const size_t waiting = m_used;
+    m_used = 0; // a fault is told once, not again from the destructor
+    m_file->Write(m_buffer.data(), static_cast<UINT>(waiting));
+}
+
+bool CArchive::FillBuffer() {
+    m_used = 0;
+    m_have = m_file->Read(m_buffer.data(), static_cast<UINT>(m_buffer.size()));
+    return m_have > 0;
+}
+
+UINT CArchive::Read(void *buffer, UINT bytes) {
+    if (!IsLoading())
+        AfxThrowArchiveException(CArchiveException::writeOnly, m_fileName);
+    auto *out = static_cast<BYTE *>(buffer);
+    UINT got = 0;
+    while (got < bytes && (m_used < m_have || FillBuffer())) {
+        const auto piece = static_cast<UINT>(std::min<size_t>(bytes - got, m_have - m_used));
+        std::memcpy(out + got, m_buffer.data() + m_used, piece);
+        m_used += piece;
+        got += piece;
+    }
+    return got;
+}
+
+void CArchive::ReadExactly(void *buffer, UINT bytes) {
+    if (Read(buffer, bytes) != bytes)
+        AfxThrowArchiveException(CArchiveException::endOfFile, m_fileName);
+}
+
+void CArchive::Write(const void *buffer, UINT bytes) {
+    if (!IsStoring())
+        AfxThrowArchiveException(CArchiveException::readOnly, m_fileName);
+    auto *in = static_cast<const BYTE *>(buffer);
+    while (bytes > 0) {
+        const auto piece = static_cast<UINT>(std::min<size_t>(bytes, m_buffer.size() - m_used));
+        std::memcpy(m_buffer.data() + m_used, in, piece);
+        m_used += piece;
+        in += piece;
+        bytes -= piece;
+        if (m_used == m_buffer.size())
+            Flush();
+    }
+}
+
+ULONGLONG CArchive::BytesLeft() const {
+    const ULONGLONG length = m_file->GetLength();
+    const ULONGLONG position = m_file->GetPosition();
+    return (position < length ? length - position : 0) + (m_have - m_used);
+}
+
+CArchive &CArchive::operator<<(BYTE value) {
+    Write(&value, 1);
+    return *this;
+}
+
+CArchive &CArchive::operator<<(WORD value) {
+    BYTE bytes[2];
+    PutLittleEndian(bytes, value, 2);
+    Write(bytes, 2);
+    return *this;
+}
+
+CArchive &CArchive::operator<<(int value) {
+    BYTE bytes[4];
+    PutLittleEndian(bytes, static_cast<unsigned>(value), 4);
+    Write(bytes, 4);
+    return *this;
+}
+
+CArchive &CArchive::operator>>(BYTE &value) {
+    ReadExactly(&value, 1);
+    return *this;
+}
+
+CArchive &CArchive::operator>>(WORD &value) {
+    BYTE bytes[2];
+    ReadExactly(bytes, 2);
+    value = static_cast<WORD>(GetLittleEndian(bytes, 2));
+    return *this;
+}
+
+CArchive &CArchive::operator>>(int &value) {
+    BYTE bytes[4];
+    ReadExactly(bytes, 4);
+    value = static_cast<int>(GetLittleEndian(bytes, 4));
+    return *this;
+}
+
+void CArchive::WriteCount(unsigned count) {
+    if (count < kLongCount) {
+        *this << static_cast<WORD>(count);
+    } else {
+        *this << static_cast<WORD>(kLongCount);
+        *this << static_cast<int>(count);
+    }
+}
+
+unsigned CArchive::ReadCount() {
+    WORD count;
+    *this >> count;
+    if (count != kLongCount)
+        return count;
+    int large;
+    *this >> large;
+    return static_cast<unsigned>(large);
+}
+
+CArchive &CArchive::operator<<(const CString &text) {
+    const auto length = static_cast<unsigned>(text.GetLength());
+    if (length < kLongString) {
+        *this << static_cast<BYTE>(length);
+    } else if (length < kWideMark) {
+        *this << kLongString << static_cast<WORD>(length);
+    } else {
+        *this << kLongString << kLongerString << static_cast<int>(length);
+    }
+    Write(static_cast<LPCSTR>(text), length);
+    return *this;
+}
+
+unsigned long long CArchive::ReadStringLength(bool *wide) {
+    BYTE shortLength;
+    *this >> shortLength;
+    if (shortLength != kLongString)
+        return shortLength;
+    WORD wordLength;
+    *this >> wordLength;
+    if (wordLength == kWideMark && !*wide) {
+        *wide = true;
+        return ReadStringLength(wide);
+    }
+    if (wordLength != kLongerString)
+        return wordLength;
+    int longLength;
+    *this >> longLength;
+    if (static_cast<unsigned>(longLength) != kLongestString)
+        return static_cast<unsigned>(longLength);
+    BYTE bytes[8];
+    ReadExactly(bytes, 8);
+    return GetLittleEndian(bytes, 8);
+}
+
+CArchive &CArchive::operator>>(CString &text) {
+    bool wide = false;
+    const unsigned long long length = ReadStringLength(&wide);
+    const unsigned width = wide ? 2 : 1;
+    if (length > BytesLeft() / width || length > 0x3FFFFFFF)
+        AfxThrowArchiveException(CArchiveException::endOfFile, m_fileName);
+    std::vector<BYTE> bytes(static_cast<size_t>(length) * width);
+    ReadExactly(bytes.data(), static_cast<UINT>(bytes.size()));
+    if (!wide) {
+        text = CString(reinterpret_cast<const char *>(bytes.data()), static_cast<int>(length));
+        return *this;
+    }
+    std::vector<WORD> units(static_cast<size_t>(length));
+    for (size_t i = 0; i < length; ++i)
+        units[i] = static_cast<WORD>(GetLittleEndian(&bytes[2 * i], 2));
+    text = TextFromWide(units);
+    return *this;
+}

@@ -1,0 +1,65 @@
+// CArchive: the byte stream of the persisted files, over a CFile.
+//
+// Differences from MFC: no object protocol. The stream holds no class records, tags or schema numbers; each class
+// writes its own leading version. All values are little-endian.
+//
+// Faults are thrown: CArchiveException readOnly (a write while loading), writeOnly (a read while storing) and
+// endOfFile, and whatever the file throws. Destroying a storing archive writes its buffer out; a fault there is
+// only told by Flush or Close.
+#pragma once
+
+#include <afx.h>
+#include <afxcoll.h>
+
+#include <vector>
+
+constexpr UINT kArchiveBufferBytes = 4096;
+
+class ORVANE_API CArchive {
+public:
+    enum Mode { store = 0, load = 1 };
+
+    // The file is borrowed and stays open.
+    CArchive(CFile *file, UINT mode, UINT bufferBytes = kArchiveBufferBytes);
+    ~CArchive();
+    CArchive(const CArchive &) = delete;
+    CArchive &operator=(const CArchive &) = delete;
+
+    bool IsStoring() const { return m_mode == store; }
+    bool IsLoading() const { return m_mode == load; }
+
+    // How many bytes it got; fewer only at the end of the file.
+    UINT Read(void *buffer, UINT bytes);
+    void Write(const void *buffer, UINT bytes);
+    void Flush();
+    void Close();
+
+    CArchive &operator<<(BYTE value);
+    CArchive &operator<<(WORD value);
+    CArchive &operator<<(int value); // four bytes
+    CArchive &operator<<(const CString &text);
+    CArchive &operator>>(BYTE &value);
+    CArchive &operator>>(WORD &value);
+    CArchive &operator>>(int &value);
+    CArchive &operator>>(CString &text);
+
+    // A word, or 0xFFFF and four bytes.
+    void WriteCount(unsigned count);
+    unsigned ReadCount();
+
+    CFile *GetFile() const { return m_file; }
+    // Bytes between the reading position and the end of the file: no field can be larger.
+    ULONGLONG BytesLeft() const;
+
+private:
+    void ReadExactly(void *buffer, UINT bytes);
+    bool FillBuffer();
+    unsigned long long ReadStringLength(bool *wide);
+
+    CFile *m_file;
+    UINT m_mode;
+    CString m_fileName; // goes into every exception
+    std::vector<BYTE> m_buffer;
+    size_t m_used = 0; // loading: bytes consumed; storing: bytes waiting
+    size_t m_have = 0; // loading: bytes in the buffer
+};
