@@ -54,8 +54,9 @@ int codePageOfLanguageDriver(std::uint8_t driver) {
 }
 
 TextTranslator::TextTranslator(const CodePage *file, const CodePage *display)
-    : identity_(!file || !display || file == display) {
-    if (identity_) {
+    : identity_(!file || file == display) {
+    display_.fill('?');
+    if (identity_ || !display) {
         return;
     }
     for (std::size_t i = 0; i < 128; ++i) {

@@ -23,8 +23,9 @@ const CodePage *findCodePage(int number);
 // -1 for a byte of unknown meaning. The number may be one that findCodePage does not know.
 int codePageOfLanguageDriver(std::uint8_t driver);
 
-// Translates between the page of a file and the page of the display. Where either page is unknown or both are
-// the same, bytes pass through as they are.
+// Translates between the page of a file and the page of the display. Where the file's page is unknown (null)
+// or both are the same, bytes pass through as they are. Where only that of the display is unknown, as it is
+// when the system's characters take several bytes, nothing but ASCII gets through.
 class TextTranslator {
 public:
     TextTranslator() = default;

@@ -167,6 +167,22 @@ void assignRecordBits(Bytes descriptors, std::vector<Field> &fields) {
     }
 }
 
+// `number` is what the user calls the field: its place, counted from 1, and its name.
+Result checkField(const Field &field, const std::string &number, std::vector<std::string> &warnings) {
+    if (field.width == 0) {
+        return Result::failure("field " + number + " has no width");
+    }
+    const auto letter = static_cast<std::uint8_t>(field.type);
+    if (letter < 0x21 || letter > 0x7E) {
+        return Result::failure("field " + number + " has the impossible type byte " + hex(letter));
+    }
+    if (!isKnownType(field.type)) {
+        warnings.push_back("Field " + number + " is of the unknown type " + field.type +
+                           " and cannot be changed");
+    }
+    return Result::success();
+}
+
 Result parseFields(Bytes descriptors, Layout &layout, std::vector<std::string> &warnings) {
     const bool longCharacters = recordLengthOf(descriptors, true) == layout.recordLength;
     const std::size_t length = recordLengthOf(descriptors, longCharacters);
@@ -177,18 +193,9 @@ Result parseFields(Bytes descriptors, Layout &layout, std::vector<std::string> &
     std::size_t offset = 1;
     for (std::size_t at = 0; at < descriptors.size(); at += kDescriptorLength) {
         Field field = parseField(&descriptors[at], longCharacters, layout.isVisualFoxPro());
-        const std::string number = std::to_string(layout.fields.size() + 1);
-        if (field.width == 0) {
-            return Result::failure("field " + number + " (" + field.name + ") has no width");
-        }
-        const auto letter = static_cast<std::uint8_t>(field.type);
-        if (letter < 0x21 || letter > 0x7E) {
-            return Result::failure("field " + number + " (" + field.name + ") has the impossible type byte " +
-                                   hex(letter));
-        }
-        if (!isKnownType(field.type)) {
-            warnings.push_back("Field " + number + " (" + field.name + ") is of the unknown type " +
-                               field.type + " and cannot be changed");
+        const std::string number = std::to_string(layout.fields.size() + 1) + " (" + field.name + ")";
+        if (Result checked = checkField(field, number, warnings); !checked) {
+            return checked;
         }
         field.offset = offset;
         offset += field.width;

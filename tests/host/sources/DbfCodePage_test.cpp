@@ -76,6 +76,18 @@ TEST(DbfCodePage, TakesBytesAsTheyAreForUnknownDriver) {
     }
 }
 
+TEST(DbfCodePage, LetsOnlyAsciiThroughToDisplayOfUnknownPage) {
+    MemoryFiles files;
+    files.files["t.dbf"] = oneCell("a\x81", 0x01);
+    dbf::OpenOptions wide = options(files);
+    wide.displayCodePage = 65001;
+    std::unique_ptr<dbf::Table> table;
+    ASSERT_TRUE(dbf::Table::open("t.dbf", wide, table));
+    EXPECT_EQ(table->cellText(0, 0), "a?");
+    EXPECT_TRUE(table->setCellText(0, 0, "plain"));
+    EXPECT_FALSE(table->setCellText(0, 0, "\xC3\xBC"));
+}
+
 TEST(DbfCodePage, LeavesBinaryCharactersAlone) {
     MemoryFiles files;
     const auto table =

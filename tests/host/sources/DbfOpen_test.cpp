@@ -189,7 +189,7 @@ TEST(DbfOpen, ShowsBinaryFieldsOfVisualFoxPro) {
     const std::string record = raw(" \xFE\xFF\xFF\xFF")                  // -2
                                + raw("\x00\x00\x00\x00\x00\x00\xF8\x3F") // 1.5
                                + raw("\xC7\xCF\xFF\xFF\xFF\xFF\xFF\xFF") // -12345 ten-thousandths
-                               + raw("\x8C\x3D\x25\x00\x78\x1E\x5B\x02") // 2440588, 39,526,008 ms
+                               + raw("\x8C\x3D\x25\x00\x6F\x1E\x5B\x02") // 2440588, 39,525,999 ms
                                + raw("ab\0\x02") + raw("\x01\x02\x03\x04") + raw("\x05");
     const auto table = openBytes(files, header(0x30, 1, 1 + 4 + 8 + 8 + 8 + 4 + 4 + 1,
                                                descriptor("I", 'I', 4) + descriptor("B", 'B', 8, 2) +
