@@ -155,7 +155,7 @@ void CUGEdit::OnKillFocus(CWnd *next) {
 
 // Tab moves on to the next cell, and Enter and Escape end the edit: a dialog must not take them.
 UINT CUGEdit::OnGetDlgCode() {
-    const MSG *message = reinterpret_cast<const MSG *>(AfxGetCurrentMessage()->lParam);
+    const MSG *message = reinterpret_cast<const MSG *>(GetCurrentMessage()->lParam);
     UINT code = static_cast<UINT>(Default());
     if (message != nullptr && message->wParam == VK_TAB)
         code |= DLGC_WANTTAB;

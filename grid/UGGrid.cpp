@@ -106,11 +106,11 @@ void CUGGrid::ShowMove() {
         if (m_edit.GetSafeHwnd() != nullptr && ::GetFocus() == m_edit.m_hWnd)
             SetFocus(); // an open edit ends before its cell moves away under it
         // A far jump is not summed up: beyond the extent the distance does not matter.
-        const long far = cols.m_extent + rows.m_extent + 1;
-        const bool near = std::labs(rows.m_leading - m_shownTop) < far && cols.Contains(m_shownLeft) &&
+        const long beyond = cols.m_extent + rows.m_extent + 1;
+        const bool close = std::labs(rows.m_leading - m_shownTop) < beyond && cols.Contains(m_shownLeft) &&
                           rows.Contains(m_shownTop);
-        const long dx = near ? cols.PositionOf(m_shownLeft) : far;
-        const long dy = near ? rows.PositionOf(m_shownTop) : far;
+        const long dx = close ? cols.PositionOf(m_shownLeft) : beyond;
+        const long dy = close ? rows.PositionOf(m_shownTop) : beyond;
         if ((dx != 0 && dy != 0) || !ScrollImage(static_cast<int>(dx), static_cast<int>(dy)))
             Invalidate(FALSE);
     }

@@ -83,7 +83,7 @@ int CUGHint::MoveHint(int x, int y, int minimumWidth) {
 }
 
 int CUGHint::Show() {
-    SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    ::SetWindowPos(m_hWnd, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
     UpdateWindow();
     return GRID_SUCCESS;
 }

@@ -14,8 +14,7 @@ UGScrollRange UGScrollRange::Vertical(long maxLeading, int extent, int defaultSi
         range.m_max = 2;
     } else if (maxLeading > kScaledBarFrom) {
         range.m_max = kScaledBarFrom;
-        range.m_toBar = static_cast<double>(kScaledBarFrom) / maxLeading;
-        range.m_toAxis = static_cast<double>(maxLeading) / kScaledBarFrom;
+        range.m_scaledMax = maxLeading;
     } else {
         range.m_page = PageOf(extent, defaultSize);
         range.m_max = static_cast<int>(maxLeading) + range.m_page - 1;
@@ -30,7 +29,19 @@ UGScrollRange UGScrollRange::Horizontal(long maxLeading, int extent, int default
     return range;
 }
 
+int UGScrollRange::BarPosition(long leading) const {
+    if (m_scaledMax == 0)
+        return static_cast<int>(leading);
+    return static_cast<int>(static_cast<long long>(leading) * kScaledBarFrom / m_scaledMax);
+}
+
+long UGScrollRange::AxisPosition(int bar) const {
+    if (m_scaledMax == 0)
+        return bar;
+    return static_cast<long>(static_cast<long long>(bar) * m_scaledMax / kScaledBarFrom);
+}
+
 int UGScrollRange::Percent(int bar, long maxLeading) const {
-    const double whole = maxLeading * m_toBar;
-    return whole > 0 ? static_cast<int>(bar / whole * 100) : 0;
+    const int whole = BarPosition(maxLeading);
+    return whole > 0 ? bar * 100 / whole : 0;
 }
