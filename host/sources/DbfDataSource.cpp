@@ -1,0 +1,338 @@
+#include "DbfDataSource.h"
+
+#include "grid/UGDefine.h"
+
+#include <algorithm>
+#include <cctype>
+#include <limits>
+#include <new>
+#include <string_view>
+
+namespace {
+
+constexpr dbf::Table::Row kMostRows = std::numeric_limits<long>::max();
+
+bool asksForViewing(const char *options) {
+    std::string_view text = options ? options : "";
+    while (!text.empty() && text.back() == ' ') {
+        text.remove_suffix(1);
+    }
+    return text.ends_with("-view");
+}
+
+bool equalIgnoringCase(std::string_view a, std::string_view b) {
+    const auto lowered = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [&](char x, char y) { return lowered(x) == lowered(y); });
+}
+
+CDbfDataSource::ColType typeOf(const dbf::Field &field) {
+    switch (field.kind) {
+    case dbf::FieldKind::logical: return CDbfDataSource::kLogical;
+    case dbf::FieldKind::number:
+        return field.decimals ? CDbfDataSource::kDecimalNumber : CDbfDataSource::kWholeNumber;
+    case dbf::FieldKind::floating: return CDbfDataSource::kFloatNumber;
+    case dbf::FieldKind::integer:
+    case dbf::FieldKind::real:
+    case dbf::FieldKind::currency: return CDbfDataSource::kBinaryNumber;
+    case dbf::FieldKind::memo:
+    case dbf::FieldKind::blob:
+    case dbf::FieldKind::varBinary:
+    case dbf::FieldKind::raw: return CDbfDataSource::kMemo;
+    case dbf::FieldKind::date:
+    case dbf::FieldKind::dateTime: return CDbfDataSource::kDate;
+    case dbf::FieldKind::character:
+    case dbf::FieldKind::varChar: break;
+    }
+    return CDbfDataSource::kCharacter;
+}
+
+// Characters of the text that stands for a value.
+std::size_t shownWidth(const dbf::Field &field) {
+    switch (field.kind) {
+    case dbf::FieldKind::date: return 10;    // YYYY-MM-DD
+    case dbf::FieldKind::integer: return 11; // -2147483648
+    case dbf::FieldKind::real: return 20;
+    case dbf::FieldKind::currency: return 21; // -922337203685477.5808 and room for a sign
+    case dbf::FieldKind::dateTime: return 19; // YYYY-MM-DD HH:MM:SS
+    case dbf::FieldKind::memo:
+    case dbf::FieldKind::blob: return 10;
+    case dbf::FieldKind::varBinary: return 2 * field.width;
+    default: return field.width;
+    }
+}
+
+} // namespace
+
+void CDbfDataSource::Tell(const std::string &message) const {
+    if (m_hooks.message) {
+        m_hooks.message(message);
+    }
+}
+
+// Runs work that answers a result code. No exception leaves, since the callers stand in window procedures.
+template <class Work> int CDbfDataSource::Guarded(Work work) const {
+    try {
+        return work();
+    } catch (const std::bad_alloc &) {
+        Tell(m_lowMemory);
+        return GRID_ERROR;
+    }
+}
+
+// Runs a change of the table and tells of its failure.
+template <class Change> int CDbfDataSource::Carry(Change change) {
+    if (!m_table) {
+        return GRID_ERROR;
+    }
+    return Guarded([&]() -> int {
+        const dbf::Result result = change(*m_table);
+        if (!result) {
+            Tell(result.message);
+        }
+        return result ? GRID_SUCCESS : GRID_ERROR;
+    });
+}
+
+const dbf::Field *CDbfDataSource::FieldAt(int col) const {
+    const bool exists = m_table && col >= 0 && static_cast<std::size_t>(col) < m_table->columnCount();
+    return exists ? &m_table->field(static_cast<std::size_t>(col)) : nullptr;
+}
+
+int CDbfDataSource::Open(const char *name, const char *options) {
+    return Guarded([&]() -> int {
+        dbf::OpenOptions how;
+        how.readOnly = asksForViewing(options);
+        std::unique_ptr<dbf::Table> table;
+        if (const dbf::Result opened = dbf::Table::open(name, how, table); !opened) {
+            Tell(opened.message);
+            return GRID_ERROR;
+        }
+        m_table = std::move(table);
+        m_findNext = 0;
+        TellWarnings();
+        return GRID_SUCCESS;
+    });
+}
+
+void CDbfDataSource::TellWarnings() const {
+    std::string odd;
+    for (const std::string &warning : m_table->openWarnings()) {
+        odd += "\n" + warning;
+    }
+    if (!odd.empty()) {
+        Tell("\"" + m_table->path() + "\":\n" + odd);
+    }
+}
+
+int CDbfDataSource::Close(bool force) {
+    if (m_table && m_table->canUndo() && !force && m_hooks.mayClose && !m_hooks.mayClose(*this)) {
+        return GRID_ERROR;
+    }
+    m_table.reset();
+    return GRID_SUCCESS;
+}
+
+int CDbfDataSource::Save() {
+    return Carry([this](dbf::Table &table) {
+        if (!table.canUndo()) {
+            return dbf::Result::success(); // the file holds everything already
+        }
+        const bool overwrite =
+            table.isForeign() && m_hooks.mayOverwrite && m_hooks.mayOverwrite(table.path());
+        return table.save(overwrite);
+    });
+}
+
+int CDbfDataSource::SaveAs(const char *name, const char *) {
+    return Carry([this, name](dbf::Table &table) {
+        const bool overwrite = table.path() == name && table.isForeign() && m_hooks.mayOverwrite &&
+                               m_hooks.mayOverwrite(table.path());
+        return table.saveAs(name, {}, overwrite);
+    });
+}
+
+long CDbfDataSource::GetNumRows() {
+    return m_table ? static_cast<long>(std::min(m_table->rowCount(), kMostRows)) : GRID_NOT_IMPLEMENTED;
+}
+
+int CDbfDataSource::GetNumCols() {
+    return m_table ? static_cast<int>(m_table->columnCount()) : GRID_NOT_IMPLEMENTED;
+}
+
+int CDbfDataSource::GetColName(int col, CString *name) {
+    const dbf::Field *field = FieldAt(col);
+    if (!field) {
+        return GRID_ERROR;
+    }
+    *name = field->name.c_str();
+    return GRID_SUCCESS;
+}
+
+int CDbfDataSource::GetColType(int col, int *type) {
+    const dbf::Field *field = FieldAt(col);
+    if (!field) {
+        return GRID_ERROR;
+    }
+    *type = typeOf(*field);
+    return GRID_SUCCESS;
+}
+
+int CDbfDataSource::GetFieldWidth(int col) {
+    const dbf::Field *field = FieldAt(col);
+    return field ? static_cast<int>(shownWidth(*field)) : 0;
+}
+
+int CDbfDataSource::GetFieldDecimals(int col) {
+    const dbf::Field *field = FieldAt(col);
+    if (!field) {
+        return GRID_NOT_IMPLEMENTED;
+    }
+    switch (field->kind) {
+    case dbf::FieldKind::currency: return 4;
+    case dbf::FieldKind::number:
+    case dbf::FieldKind::floating:
+    case dbf::FieldKind::real: return field->decimals;
+    default: return 0;
+    }
+}
+
+int CDbfDataSource::AppendRow() {
+    return m_table ? InsertRows(GetNumRows(), 1) : GRID_ERROR;
+}
+
+int CDbfDataSource::InsertRow(long row) {
+    return InsertRows(row, 1);
+}
+
+int CDbfDataSource::DeleteRow(long row) {
+    return DeleteRows(row, 1);
+}
+
+int CDbfDataSource::InsertRows(long row, long count) {
+    if (count < 1) {
+        return GRID_SUCCESS;
+    }
+    return Carry([=](dbf::Table &table) {
+        const auto more = static_cast<dbf::Table::Row>(count);
+        if (row < 0 || table.rowCount() + more > kMostRows) {
+            return dbf::Result::failure("The rows cannot be inserted");
+        }
+        return table.insertRows(static_cast<dbf::Table::Row>(row), more);
+    });
+}
+
+int CDbfDataSource::DeleteRows(long row, long count) {
+    if (row >= 0 && count < 1) {
+        return GRID_SUCCESS;
+    }
+    if (row < 0) { // the filtered records, of which there are none without a filter
+        return GRID_ERROR;
+    }
+    return Carry([=](dbf::Table &table) {
+        return table.removeRows(static_cast<dbf::Table::Row>(row), static_cast<dbf::Table::Row>(count));
+    });
+}
+
+int CDbfDataSource::GetCell(int col, long row, CUGCell *cell) {
+    const dbf::Field *field = FieldAt(col);
+    if (!field || row < 0 || static_cast<dbf::Table::Row>(row) >= m_table->rowCount()) {
+        return GRID_ERROR;
+    }
+    return Guarded([&]() -> int {
+        const std::string text =
+            m_table->cellText(static_cast<dbf::Table::Row>(row), static_cast<std::size_t>(col));
+        if (!text.empty()) { // an empty text is no property to merge
+            cell->SetText(text.c_str());
+        }
+        if (!field->isEditable()) {
+            cell->SetReadOnly(1);
+        }
+        return GRID_SUCCESS;
+    });
+}
+
+int CDbfDataSource::SetCell(int col, long row, CUGCell *cell) {
+    if (col < 0 || row < 0) {
+        return GRID_ERROR;
+    }
+    return Carry([=](dbf::Table &table) {
+        return table.setCellText(static_cast<dbf::Table::Row>(row), static_cast<std::size_t>(col),
+                                 cell->GetText());
+    });
+}
+
+int CDbfDataSource::FindFrom(dbf::Table::Row row, int col, const char *text, long *found) {
+    if (!FieldAt(col)) {
+        return GRID_ERROR;
+    }
+    const dbf::Table::Row rows = std::min(m_table->rowCount(), kMostRows);
+    for (; row < rows; ++row) {
+        if (equalIgnoringCase(m_table->cellText(row, static_cast<std::size_t>(col)), text)) {
+            *found = static_cast<long>(row);
+            m_findNext = row + 1;
+            return GRID_SUCCESS;
+        }
+    }
+    m_findNext = rows;
+    return GRID_ERROR;
+}
+
+int CDbfDataSource::FindFirst(int col, const char *text, long *row) {
+    return FindFrom(0, col, text, row);
+}
+
+int CDbfDataSource::FindNext(int col, const char *text, long *row) {
+    return Guarded([&] { return FindFrom(m_findNext, col, text, row); });
+}
+
+int CDbfDataSource::GetOption(int option, void *value1, void *) {
+    if (!m_table) {
+        return GRID_ERROR;
+    }
+    switch (option) {
+    case UGSRC_PATH: **static_cast<CString **>(value1) = m_table->path().c_str(); return GRID_SUCCESS;
+    case UGSRC_WRITABLE: *static_cast<int *>(value1) = m_table->isWritable() ? 1 : 0; return GRID_SUCCESS;
+    default: return GRID_NOT_IMPLEMENTED;
+    }
+}
+
+void CDbfDataSource::StartTransaction() {
+    if (m_table) {
+        m_table->beginTransaction();
+    }
+}
+
+void CDbfDataSource::EndTransaction() {
+    if (m_table) {
+        m_table->endTransaction();
+    }
+}
+
+// Undoes or redoes a group.
+template <class Step> void CDbfDataSource::Travel(Step step) {
+    const long rows = GetNumRows();
+    Carry([&](dbf::Table &table) {
+        step(table);
+        return dbf::Result::success();
+    });
+    if (GetNumRows() != rows && m_hooks.rowsChanged) {
+        m_hooks.rowsChanged();
+    }
+}
+
+void CDbfDataSource::Undo() {
+    Travel([](dbf::Table &table) { table.undo(); });
+}
+
+void CDbfDataSource::Redo() {
+    Travel([](dbf::Table &table) { table.redo(); });
+}
+
+bool CDbfDataSource::CanUndo() {
+    return m_table && m_table->canUndo();
+}
+
+bool CDbfDataSource::CanRedo() {
+    return m_table && m_table->canRedo();
+}

@@ -1,0 +1,97 @@
+// CDbfDataSource: a dBASE or FoxPro table behind the grid. All the work is done by dbf::Table; this class
+// speaks the grid's interface and shows no window of its own: what the user is to be told or asked goes
+// through the hooks.
+#pragma once
+
+#include "dbf/Table.h"
+#include "grid/UGDataSource.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+
+class CDbfDataSource : public CUGDataSource {
+public:
+    // Any of them may be empty.
+    struct Hooks {
+        // Why something was refused or failed, or what was odd about a table just opened.
+        std::function<void(const std::string &)> message;
+        // Undoing or redoing changed the number of rows; the owner calls the control's OnDataSourceNotify
+        // with the message 1.
+        std::function<void()> rowsChanged;
+        // The table is about to be closed with changes that are not saved. False keeps it open. Empty: the
+        // changes are lost.
+        std::function<bool(CDbfDataSource &)> mayClose;
+        // Somebody else changed the file since it was read. True overwrites it. Empty: it is not overwritten.
+        std::function<bool(const std::string &path)> mayOverwrite;
+    };
+
+    // What GetColType answers.
+    enum ColType {
+        kCharacter = 0,
+        kLogical = 1,
+        kWholeNumber = 2,
+        kDecimalNumber = 3,
+        kFloatNumber = 4,
+        kBinaryNumber = 5,
+        kMemo = 6,
+        kDate = 7,
+    };
+
+    CDbfDataSource() = default;
+    explicit CDbfDataSource(Hooks hooks) : m_hooks(std::move(hooks)) {}
+
+    // Null while no table is open.
+    const dbf::Table *GetTable() const { return m_table.get(); }
+
+    // Options ending in "-view " open for viewing only; the table's name in them means nothing here.
+    int Open(const char *name, const char *options) override;
+    int Close(bool force) override;
+    int Save() override;
+    int SaveAs(const char *name, const char *options) override;
+
+    long GetNumRows() override;
+    int GetNumCols() override;
+    int GetColName(int col, CString *name) override;
+    int GetColType(int col, int *type) override;
+    int GetFieldWidth(int col) override;
+    int GetFieldDecimals(int col) override;
+
+    int AppendRow() override;
+    int InsertRow(long row) override;
+    int DeleteRow(long row) override;
+    int InsertRows(long row, long count) override;
+    int DeleteRows(long row, long count) override;
+
+    // Sets the text, and the read-only mark where the field is only shown. How text is aligned is left to the
+    // layers below.
+    int GetCell(int col, long row, CUGCell *cell) override;
+    int SetCell(int col, long row, CUGCell *cell) override;
+    // Compare whole texts, ignoring the case of letters.
+    int FindFirst(int col, const char *text, long *row) override;
+    int FindNext(int col, const char *text, long *row) override;
+
+    // UGSRC_PATH: value1 points to a CString *, which receives the path. UGSRC_WRITABLE: see CUGDataSource.
+    int GetOption(int option, void *value1, void *value2) override;
+
+    void StartTransaction() override;
+    void EndTransaction() override;
+    void Undo() override;
+    void Redo() override;
+    bool CanUndo() override;
+    bool CanRedo() override;
+
+private:
+    template <class Work> int Guarded(Work work) const;
+    template <class Change> int Carry(Change change);
+    template <class Step> void Travel(Step step);
+    const dbf::Field *FieldAt(int col) const;
+    int FindFrom(dbf::Table::Row row, int col, const char *text, long *found);
+    void Tell(const std::string &message) const;
+    void TellWarnings() const;
+
+    Hooks m_hooks;
+    std::unique_ptr<dbf::Table> m_table;
+    dbf::Table::Row m_findNext = 0; // where FindNext goes on
+    const std::string m_lowMemory = "Low memory - cannot carry out operation!";
+};

@@ -1,0 +1,255 @@
+// The table as the grid sees it, on real files.
+#include "DbfBytes.h"
+#include "DbfDataSource.h"
+#include "grid/UGDefine.h"
+
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+
+using namespace dbftest;
+
+namespace {
+
+class DbfDataSource : public testing::Test {
+protected:
+    void SetUp() override {
+        const char *name = testing::UnitTest::GetInstance()->current_test_info()->name();
+        path = testing::TempDir() + "source-" + name + ".dbf";
+        write(people());
+    }
+    void TearDown() override {
+        source.Close(true);
+        std::remove(path.c_str());
+    }
+
+    void write(const std::string &bytes) { std::ofstream(path, std::ios::binary) << bytes; }
+    std::string read(const std::string &file) {
+        std::ifstream in(file, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+    std::string cell(int col, long row) {
+        CUGCell result;
+        const int code = source.GetCell(col, row, &result);
+        return code == GRID_SUCCESS ? std::string(result.GetText()) : "error " + std::to_string(code);
+    }
+    int set(int col, long row, const char *text) {
+        CUGCell value;
+        value.SetText(text);
+        return source.SetCell(col, row, &value);
+    }
+
+    std::string path;
+    std::string told;
+    int rowsChanged = 0;
+    bool mayClose = true;
+    CDbfDataSource source{{[this](const std::string &message) { told += message + "|"; },
+                           [this] { ++rowsChanged; },
+                           [this](CDbfDataSource &) { return mayClose; },
+                           {}}};
+};
+
+} // namespace
+
+TEST_F(DbfDataSource, AnswersNothingBeforeItIsOpen) {
+    CUGCell value;
+    CString name;
+    int type = 0;
+    EXPECT_EQ(source.GetNumRows(), -1);
+    EXPECT_EQ(source.GetNumCols(), -1);
+    EXPECT_NE(source.GetCell(0, 0, &value), 0);
+    EXPECT_NE(source.SetCell(0, 0, &value), 0);
+    EXPECT_NE(source.GetColName(0, &name), 0);
+    EXPECT_NE(source.GetColType(0, &type), 0);
+    EXPECT_NE(source.AppendRow(), 0);
+    EXPECT_NE(source.Save(), 0);
+    EXPECT_EQ(source.GetFieldWidth(0), 0);
+    EXPECT_FALSE(source.CanUndo() || source.CanRedo());
+    source.Undo();
+    source.StartTransaction();
+    EXPECT_EQ(source.Close(false), 0);
+}
+
+TEST_F(DbfDataSource, DescribesTheFields) {
+    ASSERT_EQ(source.Open(path.c_str(), "-table "), 0);
+    std::string text;
+    for (int col = 0; col < source.GetNumCols(); ++col) {
+        CString name;
+        int type = -1;
+        source.GetColName(col, &name);
+        source.GetColType(col, &type);
+        text += std::string(name) + " " + std::to_string(type) + " " +
+                std::to_string(source.GetFieldWidth(col)) + " " +
+                std::to_string(source.GetFieldDecimals(col)) + ";";
+    }
+    EXPECT_EQ(text, "NAME 0 8 0;PAY 3 7 2;BORN 7 10 0;ACTIVE 1 1 0;");
+    EXPECT_EQ(source.GetNumRows(), 3);
+}
+
+TEST_F(DbfDataSource, ShowsCellsAndLeavesOtherPropertiesAlone) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    CUGCell value;
+    value.SetText("below");
+    value.SetAlignment(UG_ALIGN_VCENTER);
+    EXPECT_EQ(source.GetCell(1, 2, &value), 0); // blank: nothing to merge
+    EXPECT_STREQ(value.GetText(), "below");
+    EXPECT_EQ(source.GetCell(1, 0, &value), 0);
+    EXPECT_STREQ(value.GetText(), "1200.50");
+    EXPECT_EQ(value.GetAlignment(), UG_ALIGN_VCENTER);
+    EXPECT_EQ(value.GetReadOnly(), -1);
+    EXPECT_EQ(cell(0, 3), "error 1");
+    EXPECT_EQ(cell(4, 0), "error 1");
+    EXPECT_EQ(cell(-1, 0), "error 1");
+}
+
+TEST_F(DbfDataSource, MarksFieldsThatAreOnlyShown) {
+    write(header(0x30, 1, 5, descriptor("I", 'I', 4)) + raw(" \x07\0\0\0\x1A"));
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    CUGCell value;
+    ASSERT_EQ(source.GetCell(0, 0, &value), 0);
+    EXPECT_STREQ(value.GetText(), "7");
+    EXPECT_EQ(value.GetReadOnly(), 1);
+}
+
+TEST_F(DbfDataSource, TellsWhyValueIsRefused) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    EXPECT_EQ(set(1, 0, "12"), 0);
+    EXPECT_EQ(set(1, 0, "much"), 1);
+    EXPECT_EQ(told, "Field PAY: \"much\" is not a number|");
+    EXPECT_EQ(cell(1, 0), "12.00");
+}
+
+TEST_F(DbfDataSource, TellsWhyTableCannotBeOpened) {
+    write("no table");
+    EXPECT_EQ(source.Open(path.c_str(), ""), 1);
+    EXPECT_EQ(told, "Cannot open \"" + path + "\": the header is cut short (8 bytes)|");
+    EXPECT_EQ(source.Open((path + ".none").c_str(), ""), 1);
+}
+
+TEST_F(DbfDataSource, TellsWhatIsOddAboutTable) {
+    write(people().substr(0, 190));
+    EXPECT_EQ(source.Open(path.c_str(), ""), 0);
+    EXPECT_EQ(told, "\"" + path + "\":\n\nThe header speaks of 3 records, but only 1 are whole in the file|");
+}
+
+TEST_F(DbfDataSource, OpensForViewing) {
+    int writable = -1;
+    int unused = 0;
+    ASSERT_EQ(source.Open(path.c_str(), "-table -viewers"), 0);
+    ASSERT_EQ(source.GetOption(UGSRC_WRITABLE, &writable, &unused), 0);
+    EXPECT_EQ(writable, 1);
+    ASSERT_EQ(source.Open(path.c_str(), "-table T-view "), 0);
+    ASSERT_EQ(source.GetOption(UGSRC_WRITABLE, &writable, &unused), 0);
+    EXPECT_EQ(writable, 0);
+    EXPECT_EQ(set(0, 0, "x"), 1);
+}
+
+TEST_F(DbfDataSource, GivesItsPath) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    CString received;
+    CString *pointer = &received;
+    int zero = 0;
+    EXPECT_EQ(source.GetOption(UGSRC_PATH, &pointer, &zero), 0);
+    EXPECT_EQ(std::string(received), path);
+    EXPECT_EQ(source.GetOption(99, &pointer, &zero), -1);
+}
+
+TEST_F(DbfDataSource, InsertsAndDeletesRows) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    EXPECT_EQ(source.InsertRows(1, 2), 0);
+    EXPECT_EQ(source.AppendRow(), 0);
+    EXPECT_EQ(source.InsertRow(0), 0);
+    EXPECT_EQ(source.GetNumRows(), 7);
+    EXPECT_EQ(source.DeleteRow(0), 0);
+    EXPECT_EQ(source.DeleteRows(0, 3), 0);
+    EXPECT_EQ(source.GetNumRows(), 3);
+    EXPECT_EQ(cell(0, 0), "Bert");
+    EXPECT_EQ(source.InsertRows(1, 0), 0);
+    EXPECT_EQ(source.InsertRows(9, 1), 1);
+    EXPECT_EQ(source.DeleteRows(2, 9), 1);
+    EXPECT_EQ(source.DeleteRows(-1, -1), 1);
+}
+
+TEST_F(DbfDataSource, NotifiesWhenUndoChangesTheNumberOfRows) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    source.StartTransaction();
+    set(0, 0, "x");
+    source.EndTransaction();
+    source.StartTransaction();
+    source.DeleteRows(0, 2);
+    source.EndTransaction();
+    source.Undo();
+    EXPECT_EQ(rowsChanged, 1);
+    EXPECT_EQ(cell(0, 0), "x");
+    source.Undo();
+    EXPECT_EQ(rowsChanged, 1);
+    EXPECT_EQ(cell(0, 0), "Anna");
+    EXPECT_FALSE(source.CanUndo());
+    source.Redo();
+    source.Redo();
+    EXPECT_EQ(rowsChanged, 2);
+    EXPECT_FALSE(source.CanRedo());
+}
+
+TEST_F(DbfDataSource, FindsWholeTextsIgnoringCase) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    source.InsertRows(3, 2);
+    set(0, 4, "ANNA");
+    long row = -1;
+    EXPECT_EQ(source.FindFirst(0, "anna", &row), 0);
+    EXPECT_EQ(row, 0);
+    EXPECT_EQ(source.FindNext(0, "anna", &row), 0);
+    EXPECT_EQ(row, 4);
+    EXPECT_EQ(source.FindNext(0, "anna", &row), 1);
+    EXPECT_EQ(source.FindFirst(0, "ann", &row), 1);
+    EXPECT_EQ(source.FindFirst(9, "anna", &row), 1);
+}
+
+TEST_F(DbfDataSource, SavesAndIsThenUnmodified) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    EXPECT_EQ(source.Save(), 0);
+    EXPECT_EQ(read(path), people()); // nothing to save, nothing touched
+    set(0, 0, "Saved");
+    EXPECT_TRUE(source.CanUndo());
+    EXPECT_EQ(source.Save(), 0) << told;
+    EXPECT_FALSE(source.CanUndo());
+    EXPECT_EQ(read(path).substr(161, 9), " Saved   ");
+    EXPECT_EQ(cell(0, 0), "Saved");
+}
+
+TEST_F(DbfDataSource, SavesUnderAnotherName) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    set(0, 0, "Saved");
+    const std::string copy = path + "-copy.dbf";
+    EXPECT_EQ(source.SaveAs(copy.c_str(), ""), 0) << told;
+    EXPECT_EQ(read(path), people());
+    EXPECT_EQ(read(copy).substr(161, 9), " Saved   ");
+    EXPECT_EQ(source.SaveAs((testing::TempDir() + "none/none.dbf").c_str(), ""), 1);
+    EXPECT_NE(told, "");
+    EXPECT_EQ(cell(0, 0), "Saved");
+    source.Close(true);
+    std::remove(copy.c_str());
+}
+
+TEST_F(DbfDataSource, DoesNotOverwriteForeignChange) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    set(0, 0, "Mine");
+    std::ofstream(path, std::ios::binary | std::ios::app) << "more";
+    if (read(path) == people()) {
+        GTEST_SKIP() << "the platform does not let others write";
+    }
+    EXPECT_EQ(source.Save(), 1);
+    EXPECT_EQ(read(path), people() + "more");
+    EXPECT_TRUE(source.CanUndo());
+}
+
+TEST_F(DbfDataSource, AsksBeforeItLosesChanges) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    mayClose = false;
+    set(0, 0, "x");
+    EXPECT_EQ(source.Close(false), 1);
+    EXPECT_EQ(cell(0, 0), "x");
+    source.Undo();
+    EXPECT_EQ(source.Close(false), 0);
+    EXPECT_EQ(source.GetNumRows(), -1);
+}
