@@ -10,6 +10,9 @@
 #include <cstdarg>
 #include <utility>
 
+// The system's headers would rename the method in some sources and not in others.
+#undef LoadString
+
 struct CStringData {
     long nRefs;
     int nDataLength;

@@ -7,6 +7,9 @@
 #include "afxstr.h"
 #include <ctime>
 
+// The system's headers define this as a macro.
+#undef GetCurrentTime
+
 class ORVANEFW_API CTime {
 public:
     CTime() : m_time(0) {}
