@@ -1,0 +1,5 @@
+#pragma once
+#include <afxwin.h>
+#include <ole2.h>
+typedef DWORD DROPEFFECT;
+class COleDataObject;
