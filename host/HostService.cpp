@@ -54,11 +54,8 @@ int CHostService::CheckAbort() {
 }
 
 bool CHostService::MayClose(CDbfDataSource &source) {
-    CString path, text;
-    CString *out = &path;
-    int unused = 0;
-    source.GetOption(UGSRC_PATH, out, &unused);
-    text.Format("Save the changes to %s?", static_cast<const char *>(NameOf(path)));
+    CString text;
+    text.Format("Save the changes to %s?", static_cast<const char *>(NameOf(PathOf(source))));
     switch (AfxMessageBox(text, MB_YESNOCANCEL | MB_ICONQUESTION)) {
     case IDYES: return source.Save() == GRID_SUCCESS;
     case IDNO: return true;
