@@ -65,6 +65,14 @@ void CChildFrame::OnClose() {
         CMDIChildWnd::OnClose();
 }
 
+void CChildFrame::ShowTitle(const CString &title) {
+    if (title == GetTitle())
+        return;
+    SetTitle(title);
+    SetWindowText(title);
+    OnUpdateFrameTitle(TRUE);
+}
+
 // The menus ask when they open; the panes ask when there is nothing else to do. The title tells of changes.
 LRESULT CChildFrame::OnCommandsChanged(WPARAM, LPARAM) {
     m_editor.UpdateTitle();

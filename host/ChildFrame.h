@@ -10,6 +10,8 @@ class CChildFrame : public CMDIChildWnd {
 
 public:
     bool LoadTable(const char *path);
+    // In the window's own caption, or in the frame's while it is maximised.
+    void ShowTitle(const CString &title);
     void FocusTable() { m_editor.SetFocus(); }
     CEditorCore &Editor() { return m_editor; }
 

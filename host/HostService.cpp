@@ -31,7 +31,7 @@ void CHostService::SetEditorTitle(const char *path, const char *table, CEditorCo
         title += CString(" - ") + table;
     if (editor->IsFileModified())
         title += " *";
-    child->SetWindowText(title);
+    child->ShowTitle(title);
 }
 
 // The key that leaves the table: on to the next window.
