@@ -65,7 +65,12 @@ void CChildFrame::OnClose() {
         CMDIChildWnd::OnClose();
 }
 
-void CChildFrame::ShowTitle(const CString &title) {
+void CChildFrame::RefreshTitle() {
+    CString title = NameOf(m_editor.GetFilePath());
+    if (!m_editor.GetTableName().IsEmpty())
+        title += " - " + m_editor.GetTableName();
+    if (m_editor.IsFileModified())
+        title += " *";
     if (title == GetTitle())
         return;
     SetTitle(title);
@@ -73,9 +78,9 @@ void CChildFrame::ShowTitle(const CString &title) {
     OnUpdateFrameTitle(TRUE);
 }
 
-// The menus ask when they open; the panes ask when there is nothing else to do. The title tells of changes.
+// The menus ask when they open, the panes when there is nothing else to do.
 LRESULT CChildFrame::OnCommandsChanged(WPARAM, LPARAM) {
-    m_editor.UpdateTitle();
+    RefreshTitle();
     return 0;
 }
 
@@ -180,4 +185,5 @@ void CChildFrame::OnUpdateModePane(CCmdUI *command) {
 void CChildFrame::OnUpdateModifiedPane(CCmdUI *command) {
     command->Enable();
     command->SetText(m_editor.IsFileModified() ? "Modified" : "");
+    RefreshTitle(); // a value that was refused leaves no change behind, and nobody else tells of that
 }

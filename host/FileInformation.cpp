@@ -3,6 +3,8 @@
 #include "grid/UGDataSource.h"
 #include "host/Resource.h"
 
+#include <cstring>
+
 namespace {
 
 // By the numbers that a source's GetColType gives.
@@ -23,6 +25,11 @@ CString DescribeField(CUGDataSource *source, int field) {
     if (decimals > 0)
         text.AppendFormat(".%d", decimals);
     return text;
+}
+
+CString NameOf(const char *path) {
+    const char *backslash = std::strrchr(path, '\\');
+    return backslash != nullptr ? backslash + 1 : path;
 }
 
 CString PathOf(CUGDataSource &source) {
