@@ -43,6 +43,7 @@ public:
     virtual void ActivateFrame(int command = -1);
     CString GetTitle() const { return m_strTitle; }
     void SetTitle(LPCTSTR title) { m_strTitle = title; }
+    // Writes the title into the caption; the system adds a maximised child's.
     virtual void OnUpdateFrameTitle(BOOL addToTitle);
     virtual void GetMessageString(UINT id, CString &text) const;
     virtual CWnd *GetMessageBar();
@@ -80,7 +81,6 @@ protected:
     void OnMenuSelect(UINT item, UINT flags, HMENU menu);
     LRESULT OnSetMessageString(WPARAM id, LPARAM text);
     LRESULT OnPopMessageString(WPARAM id, LPARAM text);
-    LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
     BOOL OnBarCheck(UINT id);
     void OnUpdateControlBarMenu(CCmdUI *cmdUI);
     void OnUpdateKeyIndicator(CCmdUI *cmdUI);

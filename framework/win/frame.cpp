@@ -13,7 +13,6 @@ ON_WM_INITMENUPOPUP()
 ON_WM_MENUSELECT()
 ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
 ON_MESSAGE(WM_POPMESSAGESTRING, &CFrameWnd::OnPopMessageString)
-ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWnd::OnIdleUpdateCmdUI)
 ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &CFrameWnd::OnBarCheck)
 ON_COMMAND_EX(ID_VIEW_TOOLBAR, &CFrameWnd::OnBarCheck)
 ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, &CFrameWnd::OnUpdateControlBarMenu)
@@ -284,11 +283,6 @@ LRESULT CFrameWnd::OnSetMessageString(WPARAM id, LPARAM text) {
 
 LRESULT CFrameWnd::OnPopMessageString(WPARAM id, LPARAM text) {
     return SendMessage(WM_SETMESSAGESTRING, id, text);
-}
-
-LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM, LPARAM) {
-    OnUpdateFrameTitle(TRUE);
-    return 0;
 }
 
 BOOL CFrameWnd::OnBarCheck(UINT id) {

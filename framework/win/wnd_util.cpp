@@ -138,8 +138,8 @@ CWnd *CWnd::GetTopLevelParent() const {
 
 CWnd *CWnd::GetTopLevelOwner() const {
     HWND wnd = m_hWnd;
-    while (wnd && ::GetWindowLong(wnd, GWL_STYLE) & WS_CHILD)
-        wnd = ::GetParent(wnd);
+    while (const HWND owner = wnd ? ::GetWindow(wnd, GW_OWNER) : nullptr)
+        wnd = owner;
     return FromHandle(wnd);
 }
 
