@@ -354,12 +354,13 @@ TEST_F(CtrlEditTest, TheEditAsksForTabAndForAllKeysOnEnterAndEscape) {
     EXPECT_EQ(0, code('A') & DLGC_WANTALLKEYS);
 }
 
-TEST_F(CtrlEditTest, ACellOutOfViewIsBroughtIntoViewForTheEdit) {
+TEST_F(CtrlEditTest, ACellBelowTheViewIsBroughtIntoViewForTheEdit) {
     Fill(3, 50);
-    m_grid.SetTopRow(30);
+    m_grid.GotoRow(40);
+    m_grid.SetTopRow(0);
     m_grid.StartEdit();
-    EXPECT_EQ(0, m_grid.GetTopRow());
-    EXPECT_EQ("0.0", EditText());
+    EXPECT_EQ(27, m_grid.GetTopRow());
+    EXPECT_EQ("0.40", EditText());
 }
 
 TEST_F(CtrlEditTest, DestroyingTheControlEndsTheEdit) {

@@ -19,7 +19,7 @@ protected:
 
 TEST_F(CtrlInputTest, KeysMoveTheCurrentCell) {
     Fill(5, 50);
-    EXPECT_EQ("1.0 1.1 0.1 0.0 0.13 0.1 4.1 0.1 ",
+    EXPECT_EQ("1.0 1.1 0.1 0.0 0.12 0.0 4.0 0.0 ",
               AfterKeys({VK_RIGHT, VK_DOWN, VK_LEFT, VK_UP, VK_NEXT, VK_PRIOR, VK_END, VK_HOME}));
     HeldKeys control({VK_CONTROL});
     EXPECT_EQ("0.49 0.0 ", AfterKeys({VK_END, VK_HOME}));

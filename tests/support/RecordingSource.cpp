@@ -86,7 +86,8 @@ int RecordingSource::DeleteRow(long row) {
 
 int RecordingSource::GetCell(int col, long row, CUGCell *cell) {
     ++m_reads;
-    m_rowsRead.push_back(row);
+    if (col >= 0)
+        m_rowsRead.push_back(row);
     if (col < 0 || col >= GetNumCols() || row < 0 || row >= GetNumRows())
         return GRID_ERROR;
     cell->SetText(m_rows[row][col].c_str());

@@ -167,10 +167,7 @@ std::string WindowText(HWND window) {
 
 std::string Join(const std::vector<std::string> &parts, const char *between) {
     std::string all;
-    for (const std::string &part : parts) {
-        if (!all.empty())
-            all += between;
-        all += part;
-    }
+    for (size_t i = 0; i < parts.size(); ++i)
+        all += (i > 0 ? between : "") + parts[i];
     return all;
 }
