@@ -15,7 +15,7 @@ function(orvane_add_test name)
     target_compile_definitions(${name} PRIVATE ORVANE_SAMPLES="${PROJECT_SOURCE_DIR}/samples")
     if(WIN32)
         add_test(NAME ${name} COMMAND ${name})
-        set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+        set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT} RESOURCE_LOCK display)
     else()
         gtest_discover_tests(${name} TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST
                              PROPERTIES TIMEOUT ${arg_TIMEOUT})

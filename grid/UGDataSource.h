@@ -19,7 +19,7 @@ constexpr int UGSRC_ATTACH_FILTER = 4;  // value1: the filter's number, 0 the de
 constexpr int UGSRC_DETACH_FILTER = 5;
 constexpr int UGSRC_ONLY_FILTERED = 6;  // value1: 1 to present only the filtered records, else 0
 // Selectors of CUGDataSource::GetOption.
-constexpr int UGSRC_PATH = 1;           // value1: const char **, value2: int *
+constexpr int UGSRC_PATH = 1;           // value1: CString **, the string receives it; value2: int *, 0
 constexpr int UGSRC_PASSES_FILTER = 2;  // value1: long * record number from 1, value2: int *, 1 for a pass
 constexpr int UGSRC_WRITABLE = 7;       // value1: int *, 0 when the table cannot be written; value2: int *
 

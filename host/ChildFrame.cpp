@@ -65,9 +65,22 @@ void CChildFrame::OnClose() {
         CMDIChildWnd::OnClose();
 }
 
-// The menus ask when they open; the panes ask when there is nothing else to do. The title tells of changes.
+void CChildFrame::RefreshTitle() {
+    CString title = NameOf(m_editor.GetFilePath());
+    if (!m_editor.GetTableName().IsEmpty())
+        title += " - " + m_editor.GetTableName();
+    if (m_editor.IsFileModified())
+        title += " *";
+    if (title == GetTitle())
+        return;
+    SetTitle(title);
+    SetWindowText(title);
+    OnUpdateFrameTitle(TRUE);
+}
+
+// The menus ask when they open, the panes when there is nothing else to do.
 LRESULT CChildFrame::OnCommandsChanged(WPARAM, LPARAM) {
-    m_editor.UpdateTitle();
+    RefreshTitle();
     return 0;
 }
 
@@ -172,4 +185,5 @@ void CChildFrame::OnUpdateModePane(CCmdUI *command) {
 void CChildFrame::OnUpdateModifiedPane(CCmdUI *command) {
     command->Enable();
     command->SetText(m_editor.IsFileModified() ? "Modified" : "");
+    RefreshTitle(); // a value that was refused leaves no change behind, and nobody else tells of that
 }

@@ -10,6 +10,9 @@ class CChildFrame : public CMDIChildWnd {
 
 public:
     bool LoadTable(const char *path);
+    // File, table and whether it is modified, in the window's own caption or in the frame's while it is
+    // maximised.
+    void RefreshTitle();
     void FocusTable() { m_editor.SetFocus(); }
     CEditorCore &Editor() { return m_editor; }
 

@@ -3,6 +3,8 @@
 #include "grid/UGDataSource.h"
 #include "host/Resource.h"
 
+#include <cstring>
+
 namespace {
 
 // By the numbers that a source's GetColType gives.
@@ -25,14 +27,25 @@ CString DescribeField(CUGDataSource *source, int field) {
     return text;
 }
 
+CString NameOf(const char *path) {
+    const char *backslash = std::strrchr(path, '\\');
+    return backslash != nullptr ? backslash + 1 : path;
+}
+
+CString PathOf(CUGDataSource &source) {
+    CString path;
+    CString *out = &path;
+    int none = 0;
+    source.GetOption(UGSRC_PATH, &out, &none);
+    return path;
+}
+
 CFileInformationDlg::CFileInformationDlg(CUGDataSource *source, CWnd *parent)
     : CDialog(IDD_FILE_INFORMATION, parent), m_source(source) {}
 
 CString CFileInformationDlg::Describe() const {
-    CString path, text;
-    int unused = 0;
-    m_source->GetOption(UGSRC_PATH, &path, &unused);
-    text.Format("File: %s\r\nRecords: %ld\r\nFields: %d\r\n\r\n", static_cast<const char *>(path),
+    CString text;
+    text.Format("File: %s\r\nRecords: %ld\r\nFields: %d\r\n\r\n", static_cast<const char *>(PathOf(*m_source)),
                 m_source->GetNumRows(), m_source->GetNumCols());
     for (int field = 0; field < m_source->GetNumCols(); ++field)
         text += DescribeField(m_source, field) + "\r\n";

@@ -8,6 +8,12 @@ class CUGDataSource;
 // Name, type and width, as in "SALARY, number 9.2".
 CString DescribeField(CUGDataSource *source, int field);
 
+// The name behind the last backslash.
+CString NameOf(const char *path);
+
+// The path of the source's file; empty when it has none.
+CString PathOf(CUGDataSource &source);
+
 class CFileInformationDlg : public CDialog {
 public:
     CFileInformationDlg(CUGDataSource *source, CWnd *parent);

@@ -15,23 +15,11 @@ const char *const kLookupSection = "Lookup";
 constexpr UINT kCodeWidth = 5; // characters
 constexpr UINT kDescriptionWidth = 15;
 
-CString NameOf(const char *path) {
-    const char *backslash = std::strrchr(path, '\\');
-    return backslash != nullptr ? backslash + 1 : path;
-}
-
 } // namespace
 
-void CHostService::SetEditorTitle(const char *path, const char *table, CEditorCore *editor) {
-    auto *child = DYNAMIC_DOWNCAST(CChildFrame, editor->GetParent());
-    if (child == nullptr)
-        return;
-    CString title = NameOf(path);
-    if (table != nullptr)
-        title += CString(" - ") + table;
-    if (editor->IsFileModified())
-        title += " *";
-    child->SetWindowText(title);
+void CHostService::SetEditorTitle(const char *, const char *, CEditorCore *editor) {
+    if (auto *child = DYNAMIC_DOWNCAST(CChildFrame, editor->GetParent()))
+        child->RefreshTitle();
 }
 
 // The key that leaves the table: on to the next window.
@@ -54,11 +42,8 @@ int CHostService::CheckAbort() {
 }
 
 bool CHostService::MayClose(CDbfDataSource &source) {
-    CString path, text;
-    CString *out = &path;
-    int unused = 0;
-    source.GetOption(UGSRC_PATH, out, &unused);
-    text.Format("Save the changes to %s?", static_cast<const char *>(NameOf(path)));
+    CString text;
+    text.Format("Save the changes to %s?", static_cast<const char *>(NameOf(PathOf(source))));
     switch (AfxMessageBox(text, MB_YESNOCANCEL | MB_ICONQUESTION)) {
     case IDYES: return source.Save() == GRID_SUCCESS;
     case IDNO: return true;

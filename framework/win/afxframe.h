@@ -83,12 +83,12 @@ protected:
     LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
     BOOL OnBarCheck(UINT id);
     void OnUpdateControlBarMenu(CCmdUI *cmdUI);
+    void OnUpdateKeyIndicator(CCmdUI *cmdUI);
     DECLARE_MESSAGE_MAP()
 
     CString m_strTitle;
     CView *m_pViewActive;
     UINT m_nIDHelp;
-    CPtrList m_listControlBars;
     UINT m_nIDTracking;
     UINT m_nIDLastMessage;
 

@@ -21,6 +21,7 @@
 #undef SubclassWindow
 
 #include <afxcoll.h>
+#include <afxtempl.h>
 #include <afxres.h>
 
 #include "afxcmdtarget.h"

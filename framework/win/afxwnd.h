@@ -6,6 +6,7 @@
 #include "afxmsg_.h"
 
 class CDataExchange;
+class COleDropTarget;
 class CFrameWnd;
 
 constexpr UINT WM_QUERYAFXWNDPROC = 0x0360;
@@ -310,6 +311,7 @@ public:
     int MessageBox(LPCTSTR text, LPCTSTR caption = nullptr, UINT type = MB_OK);
 
     HWND m_hWnd;
+    COleDropTarget *m_pDropTarget; // not owned
 
 protected:
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);

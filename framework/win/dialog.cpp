@@ -65,6 +65,8 @@ BOOL CDialog::InitModalIndirect(const DLGTEMPLATE *dialogTemplate, CWnd *parent)
 BOOL CDialog::CreateFromTemplate(const DLGTEMPLATE *dialogTemplate, HWND parent, HINSTANCE module) {
     if (!dialogTemplate)
         return FALSE;
+    // Templates name the common controls by class.
+    ::InitCommonControls();
     AfxHookWindowCreate(this);
     const HWND wnd = ::CreateDialogIndirect(module, dialogTemplate, parent, DialogProc);
     // A dialog that was destroyed while it was initialised has been through PostNcDestroy.

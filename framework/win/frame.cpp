@@ -18,6 +18,9 @@ ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &CFrameWnd::OnBarCheck)
 ON_COMMAND_EX(ID_VIEW_TOOLBAR, &CFrameWnd::OnBarCheck)
 ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, &CFrameWnd::OnUpdateControlBarMenu)
 ON_UPDATE_COMMAND_UI(ID_VIEW_TOOLBAR, &CFrameWnd::OnUpdateControlBarMenu)
+ON_UPDATE_COMMAND_UI(ID_INDICATOR_CAPS, &CFrameWnd::OnUpdateKeyIndicator)
+ON_UPDATE_COMMAND_UI(ID_INDICATOR_NUM, &CFrameWnd::OnUpdateKeyIndicator)
+ON_UPDATE_COMMAND_UI(ID_INDICATOR_SCRL, &CFrameWnd::OnUpdateKeyIndicator)
 END_MESSAGE_MAP()
 
 const RECT CFrameWnd::rectDefault = {CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};
@@ -303,6 +306,13 @@ void CFrameWnd::OnUpdateControlBarMenu(CCmdUI *cmdUI) {
         cmdUI->SetCheck((::GetWindowLong(bar, GWL_STYLE) & WS_VISIBLE) != 0);
     else
         cmdUI->ContinueRouting();
+}
+
+void CFrameWnd::OnUpdateKeyIndicator(CCmdUI *cmdUI) {
+    const int key = cmdUI->m_nID == ID_INDICATOR_CAPS  ? VK_CAPITAL
+                    : cmdUI->m_nID == ID_INDICATOR_NUM ? VK_NUMLOCK
+                                                       : VK_SCROLL;
+    cmdUI->Enable((::GetKeyState(key) & 1) != 0);
 }
 
 void CFrameWnd::BeginModalState() {

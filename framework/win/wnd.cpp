@@ -8,6 +8,8 @@
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 
+void AfxRevokeDropTarget(COleDropTarget *target);
+
 namespace {
 
 auto &WndMap() {
@@ -131,7 +133,7 @@ BOOL AfxUnhookWindowCreate() {
 }
 
 CWnd::CWnd()
-    : m_hWnd(nullptr), m_nFlags(0), m_nModalResult(0), m_hWndOwner(nullptr), m_pfnSuper(nullptr) {}
+    : m_hWnd(nullptr), m_pDropTarget(nullptr), m_nFlags(0), m_nModalResult(0), m_hWndOwner(nullptr), m_pfnSuper(nullptr) {}
 
 CWnd::~CWnd() {
     // The derived parts are gone already, so the last messages find only what CWnd itself does.
@@ -262,6 +264,8 @@ void CWnd::OnNcDestroy() {
         AfxPostQuitMessage(0);
         thread->m_pMainWnd = nullptr;
     }
+    if (m_pDropTarget)
+        AfxRevokeDropTarget(m_pDropTarget);
     const LONG_PTR before = ::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC);
     Default();
     WNDPROC *super = GetSuperWndProcAddr();

@@ -47,6 +47,15 @@ CDbfDataSource::ColType typeOf(const dbf::Field &field) {
     return CDbfDataSource::kCharacter;
 }
 
+// A cell shows one line; a memo's line breaks would be boxes in it.
+void putOnOneLine(std::string &text) {
+    for (char &c : text) {
+        if (static_cast<unsigned char>(c) < ' ') {
+            c = ' ';
+        }
+    }
+}
+
 // Characters of the text that stands for a value.
 std::size_t shownWidth(const dbf::Field &field) {
     switch (field.kind) {
@@ -76,8 +85,11 @@ template <class Work> int CDbfDataSource::Guarded(Work work) const {
         return work();
     } catch (const std::bad_alloc &) {
         Tell(m_lowMemory);
-        return GRID_ERROR;
+    } catch (CMemoryException *e) { // what a failing allocation throws once the framework is loaded
+        e->Delete();
+        Tell(m_lowMemory);
     }
+    return GRID_ERROR;
 }
 
 // Runs a change of the table and tells of its failure.
@@ -235,13 +247,21 @@ int CDbfDataSource::DeleteRows(long row, long count) {
 }
 
 int CDbfDataSource::GetCell(int col, long row, CUGCell *cell) {
+    if (!m_table || row < 0 || static_cast<dbf::Table::Row>(row) >= m_table->rowCount()) {
+        return GRID_ERROR;
+    }
+    if (col == -1) { // the side heading: the record's number
+        return Guarded([&]() -> int { return cell->SetText(std::to_string(row + 1).c_str()); });
+    }
     const dbf::Field *field = FieldAt(col);
-    if (!field || row < 0 || static_cast<dbf::Table::Row>(row) >= m_table->rowCount()) {
+    if (!field) {
         return GRID_ERROR;
     }
     return Guarded([&]() -> int {
-        const std::string text =
-            m_table->cellText(static_cast<dbf::Table::Row>(row), static_cast<std::size_t>(col));
+        std::string text = m_table->cellText(static_cast<dbf::Table::Row>(row), static_cast<std::size_t>(col));
+        if (field->kind == dbf::FieldKind::memo) {
+            putOnOneLine(text);
+        }
         if (!text.empty()) { // an empty text is no property to merge
             cell->SetText(text.c_str());
         }

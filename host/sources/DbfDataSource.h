@@ -41,6 +41,9 @@ public:
     CDbfDataSource() = default;
     explicit CDbfDataSource(Hooks hooks) : m_hooks(std::move(hooks)) {}
 
+    // The hook that most often needs the source itself, so it can be given once there is one.
+    void SetRowsChangedHook(std::function<void()> hook) { m_hooks.rowsChanged = std::move(hook); }
+
     // Null while no table is open.
     const dbf::Table *GetTable() const { return m_table.get(); }
 
@@ -63,15 +66,15 @@ public:
     int InsertRows(long row, long count) override;
     int DeleteRows(long row, long count) override;
 
-    // Sets the text, and the read-only mark where the field is only shown. How text is aligned is left to the
-    // layers below.
+    // Sets the text, and the read-only mark where the field is only shown; column -1 is the record's number. How
+    // text is aligned is left to the layers below.
     int GetCell(int col, long row, CUGCell *cell) override;
     int SetCell(int col, long row, CUGCell *cell) override;
     // Compare whole texts, ignoring the case of letters.
     int FindFirst(int col, const char *text, long *row) override;
     int FindNext(int col, const char *text, long *row) override;
 
-    // UGSRC_PATH: value1 points to a CString *, which receives the path. UGSRC_WRITABLE: see CUGDataSource.
+    // UGSRC_PATH: value1 points to a pointer to a CString, which receives the path. UGSRC_WRITABLE: see CUGDataSource.
     int GetOption(int option, void *value1, void *value2) override;
 
     void StartTransaction() override;

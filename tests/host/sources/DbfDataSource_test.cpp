@@ -99,7 +99,8 @@ TEST_F(DbfDataSource, ShowsCellsAndLeavesOtherPropertiesAlone) {
     EXPECT_EQ(value.GetReadOnly(), -1);
     EXPECT_EQ(cell(0, 3), "error 1");
     EXPECT_EQ(cell(4, 0), "error 1");
-    EXPECT_EQ(cell(-1, 0), "error 1");
+    EXPECT_EQ(cell(-1, 0), "1"); // the side heading
+    EXPECT_EQ(cell(-2, 0), "error 1");
 }
 
 TEST_F(DbfDataSource, MarksFieldsThatAreOnlyShown) {
@@ -235,8 +236,9 @@ TEST_F(DbfDataSource, DoesNotOverwriteForeignChange) {
     ASSERT_EQ(source.Open(path.c_str(), ""), 0);
     set(0, 0, "Mine");
     std::ofstream(path, std::ios::binary | std::ios::app) << "more";
-    if (read(path) == people()) {
-        GTEST_SKIP() << "the platform does not let others write";
+    if (read(path) == people()) { // the platform keeps others from writing to an open table
+        EXPECT_EQ(source.Save(), 0);
+        return;
     }
     EXPECT_EQ(source.Save(), 1);
     EXPECT_EQ(read(path), people() + "more");

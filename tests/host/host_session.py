@@ -1,0 +1,150 @@
+#!/usr/bin/env python3
+"""Sessions at the sample host: host_session.py HOST-PROGRAM WORK-FOLDER."""
+import csv
+import io
+import os
+import subprocess
+import sys
+import unittest
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+import hostdriver  # noqa: E402
+from hostdriver import Host  # noqa: E402
+
+PROGRAM, WORK = sys.argv[1], sys.argv[2]
+READER = os.path.join(hostdriver.ROOT, "tests", "host", "sources", "read_dbf.py")
+
+
+def records(path):
+    """The fields and records as a reader of its own sees them, one list of texts a line."""
+    text = subprocess.run([sys.executable, READER, path, "cp1252"], capture_output=True, check=True).stdout
+    return [line.split("|") for line in text.decode().splitlines()]
+
+
+def gdal_values(path):
+    """The records as GDAL reads them, by field name."""
+    text = subprocess.run(["ogr2ogr", "-f", "CSV", "/vsistdout/", path], capture_output=True, check=True).stdout
+    return list(csv.DictReader(io.StringIO(text.decode("utf-8", "replace"))))
+
+
+def bytes_of(path):
+    with open(path, "rb") as file:
+        return file.read()
+
+
+class SessionTest(unittest.TestCase):
+    def setUp(self):
+        self.folder = os.path.join(WORK, self._testMethodName)
+
+    def open(self, *samples):
+        self.path = hostdriver.fresh_copy(self.folder, *samples)
+        host = Host(PROGRAM, self.path)
+        self.addCleanup(host.kill)
+        host.await_table(os.path.basename(self.path))
+        return host
+
+    def type_name_in_fourth_record(self, host):
+        host.keys("Down", "Down", "Down", "Tab", "Tab")
+        host.type("Wilhelmina")
+        host.keys("Return")
+        host.await_table("staff.dbf", modified=True)
+
+    def test_edit_undo_redo_save(self):
+        host = self.open("staff.dbf", "staff.dbt")
+        before = records(self.path)
+        self.type_name_in_fourth_record(host)
+        host.keys("ctrl+z")
+        host.await_table("staff.dbf")
+        host.keys("ctrl+y")
+        host.await_table("staff.dbf", modified=True)
+        self.assertEqual(before, records(self.path), "nothing is written before the save")
+        host.keys("ctrl+s")
+        host.await_table("staff.dbf")
+        host.keys("alt+F4")
+        host.await_end()
+        after = records(self.path)
+        self.assertEqual("Wilhelmina", after[4][2])
+        before[4][2] = "Wilhelmina"
+        self.assertEqual(before, after)
+        self.assertTrue(os.path.exists(os.path.join(self.folder, "staffdbf.@layout")))
+
+    def test_save_as_is_read_by_another_program(self):
+        host = self.open("staff.dbf", "staff.dbt")
+        original = bytes_of(self.path)
+        self.type_name_in_fourth_record(host)
+        host.keys("F12")
+        host.await_title("Save As")
+        host.keys("ctrl+a")
+        host.type("copy.dbf")
+        host.keys("Return")
+        copy = os.path.join(self.folder, "copy.dbf")
+        hostdriver.wait_for("the saved copy", lambda: os.path.exists(copy))
+        host.await_table("copy.dbf")
+        host.keys("alt+F4")
+        host.await_end()
+        self.assertEqual(original, bytes_of(self.path), "the old file stays as it was")
+        ours, theirs, old = records(copy), gdal_values(copy), gdal_values(self.path)
+        self.assertEqual("Wilhelmina", theirs[3]["FIRSTNAME"])
+        kept = [record for record in ours[1:] if not record[0].startswith("*")]
+        self.assertEqual(len(kept), len(theirs))
+        old[3]["FIRSTNAME"] = "Wilhelmina"
+        self.assertEqual(old, theirs, "another program reads the same values from both files")
+
+    def test_refused_value_is_told_and_the_old_one_stays(self):
+        host = self.open("staff.dbf", "staff.dbt")
+        host.keys("Tab", "Tab", "Tab", "Tab", "Tab")
+        host.type("much")
+        host.keys("Return")
+        host.await_message()
+        host.keys("Return")
+        host.await_no_message()
+        host.keys("Escape")
+        host.await_table("staff.dbf")
+        before = bytes_of(self.path)
+        host.keys("alt+F4")
+        host.await_end()
+        self.assertEqual(before, bytes_of(self.path))
+
+    def test_closing_asks_before_changes_are_lost(self):
+        host = self.open("staff.dbf", "staff.dbt")
+        before = bytes_of(self.path)
+        self.type_name_in_fourth_record(host)
+        host.keys("alt+F4")
+        host.await_message()
+        host.keys("Escape")  # cancel: everything stays open
+        host.await_no_message()
+        host.await_table("staff.dbf", modified=True)
+        host.keys("alt+F4")
+        host.await_message()
+        host.keys("alt+n")
+        host.await_end()
+        self.assertEqual(before, bytes_of(self.path))
+
+    def test_append_by_enter_on_the_last_record(self):
+        host = self.open("cities.dbf")
+        count = len(records(self.path))
+        host.keys("ctrl+End", "Return")
+        host.await_table("cities.dbf", modified=True)
+        host.keys("ctrl+s")
+        host.await_table("cities.dbf")
+        host.keys("alt+F4")
+        host.await_end()
+        self.assertEqual(count + 1, len(records(self.path)))
+
+    def test_damaged_file_is_refused_with_a_message(self):
+        os.makedirs(self.folder, exist_ok=True)
+        path = os.path.join(self.folder, "damaged.dbf")
+        with open(path, "wb") as file:
+            file.write(b"this is no table")
+        host = Host(PROGRAM, path)
+        self.addCleanup(host.kill)
+        host.await_message()
+        host.keys("Return")
+        host.await_title(hostdriver.FRAME)
+        self.assertEqual(b"this is no table", bytes_of(path))
+        host.keys("alt+F4")
+        host.await_end()
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1], verbosity=2)
