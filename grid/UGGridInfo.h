@@ -86,5 +86,8 @@ public:
     int SetColWidth(int col, int width);
     int GetColWidth(int col, int *width) const;
 
-    CUGDataSource *CurrentSource() const { return m_sources[m_currentSource]; }
+    // The own store where the current entry is empty: removing a source does not touch the current index.
+    CUGDataSource *CurrentSource() const {
+        return m_sources[m_currentSource] != nullptr ? m_sources[m_currentSource] : m_sources[0];
+    }
 };

@@ -1,0 +1,90 @@
+// RecordingHost and RecordingOptions: the host's services, noting what is asked of them.
+#pragma once
+
+#include "editorcore/AppInterface.h"
+
+#include "RecordingSource.h"
+
+#include <afxwin.h>
+
+#include <deque>
+#include <functional>
+#include <string>
+
+class RecordingOptions : public CVEditorOptions {
+public:
+    explicit RecordingOptions(CallLog *log);
+
+    void GetCellFont(LOGFONTA *font) override { *font = m_cellFont; }
+    void GetHeadingFont(LOGFONTA *font) override { *font = m_headingFont; }
+    void SetCellFont(const LOGFONTA *font) override;
+    void SetHeadingFont(const LOGFONTA *font) override;
+    COLORREF GetCellTextColour() override { return 0x112233; }
+    COLORREF GetCellHighlightColour() override { return 0x445566; }
+    int GetUndoLevels() override;
+    int GetMaxDisplayColWidth() override { return 33; }
+    bool IsEnterKeyTab() override { return m_enterIsTab; }
+    void SetEnterKeyTab(bool enterIsTab) override;
+    bool IsRightJustifyingNumbers() override { return true; }
+    bool IsRightJustifyingText() override { return false; }
+    void SetGridLines(bool, bool) override {}
+    void GetGridLines(bool *horizontal, bool *vertical) override { *horizontal = *vertical = true; }
+
+    LOGFONTA m_cellFont{};
+    LOGFONTA m_headingFont{};
+    int m_undoLevels = 5;
+    bool m_outOfMemory = false; // GetUndoLevels throws
+    bool m_enterIsTab = false;
+    std::function<void()> m_onSetEnterKey;
+
+private:
+    CallLog *m_log;
+};
+
+class RecordingHost : public CVAppInterface {
+public:
+    explicit RecordingHost(CallLog *log) : m_options(log), m_log(log) {}
+
+    void SetEditorTitle(const char *path, const char *table, CEditorCore *editor) override;
+    void OnGridHotKey() override { m_log->Note("HotKey"); }
+    bool LoadXParmsSet(const char *, CMap<CString, const char *, CExecuteInfo, CExecuteInfo &> *) override {
+        return false;
+    }
+    void GetAppTitle(CString &title) override { title = "Test"; }
+    int CheckAbort() override { return m_abort; }
+    // The sources of m_sources in turn, then null.
+    CUGDataSource *CreateDataSource(const char *path) override;
+    void ShowFileInformation(CUGDataSource *) override {}
+    bool PromptSaveAs(CString &, bool *, bool) override { return false; }
+    bool PromptFieldOrder(CStringArray *) override { return false; }
+    void PromptFieldVisibility(CStringArray &, CArray<bool, bool> &) override {}
+    bool PromptXParms(CStringArray &, CStringArray &, CArray<bool, bool> &, CString, const char *,
+                      CArray<CFieldStatus, CFieldStatus &> *, CString &,
+                      CArray<CExecuteInfo *, CExecuteInfo *> &) override {
+        return false;
+    }
+    void ShowFindDialog(bool, CWnd *, UINT) override {}
+    void ShowReplaceDialog(bool, CWnd *, UINT) override {}
+    CVEditorOptions *GetEditorOptions() override { return &m_options; }
+    void GetDefaultFieldWidths(UINT *code, UINT *description) override { *code = *description = 10; }
+    bool EditLookupTableProperties(bool *, bool *, bool *, bool *) override { return false; }
+    void GetLookupOptions(bool *, bool *, bool *, bool *, bool *, int *, CString *, CString *) override;
+    bool EditLookupUserOptions(bool *, bool *, bool *, bool *, bool *, int *, CString *, CString *, UINT *,
+                               UINT *) override {
+        return false;
+    }
+    void EditLookupAdminOptions(CLookupOptionsMgr *) override {}
+    void SetDefaultFieldWidths(UINT, UINT) override {}
+    bool EditFilter(int, const char *) override { return false; }
+    bool SelectFilter(int *) override { return false; }
+    void DoWaitCursor(int step) override { m_log->Note("Wait(" + std::to_string(step) + ")"); }
+    void ShowMessage(const char *text) override { m_log->Note(std::string("Message(") + text + ")"); }
+
+    RecordingOptions m_options;
+    std::deque<CUGDataSource *> m_sources;
+    int m_abort = 0;
+    std::function<void(CEditorCore *)> m_onTitle;
+
+private:
+    CallLog *m_log;
+};

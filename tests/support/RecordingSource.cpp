@@ -1,0 +1,159 @@
+#include "RecordingSource.h"
+
+#include <cstring>
+#include <utility>
+
+std::string CallLog::Take() {
+    std::string all;
+    for (const std::string &call : std::exchange(m_calls, {})) {
+        if (!all.empty())
+            all += " ";
+        all += call;
+    }
+    return all;
+}
+
+RecordingSource::RecordingSource(CallLog *log, int fields, long rows, const std::string &name)
+    : m_log(log), m_name(name) {
+    for (int col = 0; col < fields; ++col)
+        m_fields.push_back("F" + std::to_string(col));
+    for (long row = 0; row < rows; ++row) {
+        m_rows.emplace_back();
+        for (int col = 0; col < fields; ++col)
+            m_rows.back().push_back(std::to_string(col) + "." + std::to_string(row));
+    }
+}
+
+RecordingSource::~RecordingSource() {
+    m_log->Note(m_name + ".delete");
+}
+
+// Notes the call; nonzero when the script lets it fail.
+int RecordingSource::Done(const std::string &operation, const std::string &arguments) {
+    m_log->Note(m_name + "." + operation + "(" + arguments + ")");
+    const auto result = m_results.find(operation);
+    return result != m_results.end() ? result->second : GRID_SUCCESS;
+}
+
+int RecordingSource::Open(const char *name, const char *options) {
+    return Done("Open", std::string(name) + "," + options);
+}
+
+int RecordingSource::Close(bool force) {
+    return Done("Close", force ? "1" : "0");
+}
+
+int RecordingSource::Save() {
+    return Done("Save", "");
+}
+
+int RecordingSource::SaveAs(const char *name, const char *options) {
+    return Done("SaveAs", std::string(name) + "," + options);
+}
+
+int RecordingSource::GetColName(int col, CString *name) {
+    if (col < 0 || col >= GetNumCols())
+        return GRID_ERROR;
+    *name = m_fields[col].c_str();
+    return GRID_SUCCESS;
+}
+
+int RecordingSource::GetColType(int, int *type) {
+    *type = 0;
+    return GRID_SUCCESS;
+}
+
+int RecordingSource::AppendRow() {
+    const int result = Done("AppendRow", "");
+    if (result == GRID_SUCCESS)
+        m_rows.emplace_back(m_fields.size());
+    return result;
+}
+
+int RecordingSource::InsertRow(long row) {
+    const int result = Done("InsertRow", std::to_string(row));
+    if (result == GRID_SUCCESS)
+        m_rows.insert(m_rows.begin() + row, std::vector<std::string>(m_fields.size()));
+    return result;
+}
+
+int RecordingSource::DeleteRow(long row) {
+    const int result = Done("DeleteRow", std::to_string(row));
+    if (result == GRID_SUCCESS)
+        m_rows.erase(m_rows.begin() + row);
+    return result;
+}
+
+int RecordingSource::GetCell(int col, long row, CUGCell *cell) {
+    ++m_reads;
+    if (col >= 0)
+        m_rowsRead.push_back(row);
+    if (col < 0 || col >= GetNumCols() || row < 0 || row >= GetNumRows())
+        return GRID_ERROR;
+    cell->SetText(m_rows[row][col].c_str());
+    return GRID_SUCCESS;
+}
+
+int RecordingSource::SetCell(int col, long row, CUGCell *cell) {
+    const std::string where = std::to_string(col) + "," + std::to_string(row);
+    const int result = Done("SetCell", where + "," + cell->GetText());
+    if (result == GRID_SUCCESS && row < GetNumRows() && col < GetNumCols())
+        m_rows[row][col] = cell->GetText();
+    return result;
+}
+
+int RecordingSource::FindFrom(int col, const char *text, long first, long *row) {
+    for (long i = first; i < GetNumRows(); ++i) {
+        if (m_rows[i][col] == text) {
+            *row = m_found = i;
+            return GRID_SUCCESS;
+        }
+    }
+    return GRID_ERROR;
+}
+
+int RecordingSource::FindFirst(int col, const char *text, long *row) {
+    Done("FindFirst", std::to_string(col) + "," + text);
+    return FindFrom(col, text, 0, row);
+}
+
+int RecordingSource::FindNext(int col, const char *text, long *row) {
+    Done("FindNext", std::to_string(col) + "," + text);
+    return FindFrom(col, text, m_found + 1, row);
+}
+
+int RecordingSource::SetOption(int option, long value1, long) {
+    return Done("SetOption", std::to_string(option) + "," + std::to_string(value1));
+}
+
+int RecordingSource::GetOption(int option, void *value1, void *) {
+    const int result = Done("GetOption", std::to_string(option));
+    if (option != UGSRC_WRITABLE || !m_answersWritable)
+        return GRID_NOT_IMPLEMENTED;
+    *static_cast<int *>(value1) = m_writable ? 1 : 0;
+    return result;
+}
+
+int RecordingSource::RequestMoreRows(long rowCount, long wanted, long *found) {
+    Done("RequestMoreRows", std::to_string(rowCount) + "," + std::to_string(wanted));
+    if (m_growsBy < 0)
+        return GRID_NOT_IMPLEMENTED;
+    *found = m_growsBy;
+    return GRID_SUCCESS;
+}
+
+void RecordingSource::StartTransaction() {
+    Done("StartTransaction", "");
+}
+
+void RecordingSource::EndTransaction() {
+    Done("EndTransaction", "");
+}
+
+void RecordingSource::Undo() {
+    Done("Undo", "");
+}
+
+void RecordingSource::Redo() {
+    Done("Redo", "");
+}

@@ -1,0 +1,173 @@
+#include "WindowTestApp.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <utility>
+
+namespace {
+
+constexpr DWORD kPatienceMs = 5000;
+
+WindowTestApp theTestApp;
+
+void DispatchOne(MSG *message) {
+    ::TranslateMessage(message);
+    ::DispatchMessageA(message);
+}
+
+int g_systemAnswer = 0;
+std::string g_systemBox;
+
+LRESULT CALLBACK AnswerBox(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HCBT_ACTIVATE) {
+        const HWND box = reinterpret_cast<HWND>(wParam);
+        char className[16] = "";
+        ::GetClassNameA(box, className, sizeof className);
+        if (std::strcmp(className, "#32770") == 0) {
+            constexpr int kTextId = 0xFFFF;
+            g_systemBox = WindowText(box) + "|" + WindowText(::GetDlgItem(box, kTextId));
+            ::PostMessageA(box, WM_COMMAND, g_systemAnswer, 0);
+        }
+    }
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+} // namespace
+
+WindowTestApp &TestApp() {
+    return theTestApp;
+}
+
+int WindowTestApp::DoMessageBox(LPCTSTR prompt, UINT type, UINT) {
+    m_boxes.push_back(std::string(prompt) + "|" + std::to_string(type));
+    if (m_whileUp)
+        m_whileUp(prompt);
+    if (m_answers.empty())
+        return IDOK;
+    const int answer = m_answers.front();
+    m_answers.pop_front();
+    return answer;
+}
+
+std::string WindowTestApp::TakeBoxes() {
+    return Join(std::exchange(m_boxes, {}), "\n");
+}
+
+void PumpAll() {
+    MSG message;
+    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
+        DispatchOne(&message);
+}
+
+void PumpUntil(const char *awaited, const std::function<bool()> &predicate) {
+    const ULONGLONG deadline = ::GetTickCount64() + kPatienceMs;
+    for (;;) {
+        PumpAll();
+        if (predicate())
+            return;
+        const ULONGLONG now = ::GetTickCount64();
+        if (now >= deadline) {
+            ADD_FAILURE() << "gave up waiting for " << awaited;
+            return;
+        }
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(deadline - now), QS_ALLINPUT);
+    }
+}
+
+HostWindow::HostWindow(int width, int height) {
+    CreateEx(0, AfxRegisterWndClass(0), "window test", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN,
+             CRect(0, 0, width, height), nullptr, 0);
+    SetForegroundWindow();
+    ::SetActiveWindow(m_hWnd);
+}
+
+std::string HostWindow::TakeMessages() {
+    PumpAll();
+    return Join(std::exchange(m_messages, {}));
+}
+
+LRESULT HostWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    const bool command = message == WM_COMMAND && lParam == 0;
+    if (command || (message >= WM_USER && message < WM_APP)) {
+        const auto shown = [](ULONG_PTR value) {
+            return value > 0xFFFF ? std::string("1") : std::to_string(value);
+        };
+        m_messages.push_back(std::to_string(message) + "(" + shown(wParam) + "," +
+                             shown(static_cast<ULONG_PTR>(lParam)) + ")");
+    }
+    return CWnd::WindowProc(message, wParam, lParam);
+}
+
+HeldKeys::HeldKeys(std::initializer_list<int> keys) {
+    ::GetKeyboardState(m_before);
+    BYTE state[256];
+    std::memcpy(state, m_before, sizeof state);
+    for (int key : keys)
+        state[key] = 0x80;
+    ::SetKeyboardState(state);
+}
+
+HeldKeys::~HeldKeys() {
+    ::SetKeyboardState(m_before);
+}
+
+SystemBoxAnswer::SystemBoxAnswer(int answer) {
+    g_systemAnswer = answer;
+    g_systemBox.clear();
+    m_hook = ::SetWindowsHookExA(WH_CBT, AnswerBox, nullptr, ::GetCurrentThreadId());
+}
+
+SystemBoxAnswer::~SystemBoxAnswer() {
+    ::UnhookWindowsHookEx(m_hook);
+}
+
+std::string SystemBoxAnswer::Seen() {
+    return g_systemBox;
+}
+
+void SendKey(HWND window, UINT key) {
+    ::SendMessageA(window, WM_KEYDOWN, key, 1);
+    // The window may be gone with the key, as an edit box is with Enter.
+    if (::IsWindow(window))
+        ::SendMessageA(window, WM_KEYUP, key, 1);
+}
+
+void SendChar(HWND window, UINT character) {
+    ::SendMessageA(window, WM_CHAR, character, 1);
+}
+
+void TypeText(HWND window, const char *text) {
+    for (; *text != '\0'; ++text)
+        SendChar(window, static_cast<unsigned char>(*text));
+}
+
+void PressLeft(HWND window, int x, int y, UINT flags) {
+    ::SendMessageA(window, WM_LBUTTONDOWN, flags, MAKELPARAM(x, y));
+}
+
+void ReleaseLeft(HWND window, int x, int y) {
+    ::SendMessageA(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+}
+
+void MoveMouse(HWND window, int x, int y, UINT flags) {
+    ::SendMessageA(window, WM_MOUSEMOVE, flags, MAKELPARAM(x, y));
+}
+
+void ClickLeft(HWND window, int x, int y) {
+    PressLeft(window, x, y);
+    ReleaseLeft(window, x, y);
+}
+
+std::string WindowText(HWND window) {
+    char text[512] = "";
+    ::GetWindowTextA(window, text, sizeof text);
+    return text;
+}
+
+std::string Join(const std::vector<std::string> &parts, const char *between) {
+    std::string all;
+    for (size_t i = 0; i < parts.size(); ++i)
+        all += (i > 0 ? between : "") + parts[i];
+    return all;
+}
