@@ -134,11 +134,13 @@ INT_PTR CDialog::DoModal() {
     const bool disable = parent && parent != ::GetDesktopWindow() && ::IsWindowEnabled(parent);
     if (disable)
         ::EnableWindow(parent, FALSE);
-    CWnd *frame = AfxGetMainWnd();
-    const bool frameState = frame && ::IsWindow(frame->m_hWnd) && frame->IsKindOf(RUNTIME_CLASS(CFrameWnd)) &&
-                            frame->IsWindowEnabled();
-    if (frameState)
-        frame->BeginModalState();
+    // The main frame is disabled even for the dialog of a window that it does not own.
+    CWnd *main = AfxGetMainWnd();
+    const HWND frame = disable && main && main->IsKindOf(RUNTIME_CLASS(CFrameWnd)) && main->IsWindowEnabled()
+                           ? main->m_hWnd
+                           : nullptr;
+    if (frame)
+        ::EnableWindow(frame, FALSE);
     m_nModalResult = -1;
     m_nFlags |= WF_CONTINUEMODAL;
     try {
@@ -148,8 +150,8 @@ INT_PTR CDialog::DoModal() {
         m_nModalResult = -1;
     }
     m_nFlags &= ~WF_CONTINUEMODAL;
-    if (frameState && ::IsWindow(frame->m_hWnd))
-        frame->EndModalState();
+    if (frame)
+        ::EnableWindow(frame, TRUE);
     if (disable)
         ::EnableWindow(parent, TRUE);
     if (disabledTop)

@@ -223,7 +223,7 @@ int CWnd::RunModalLoop(DWORD flags) {
             if (!ContinueModal())
                 break;
             MSG current;
-            if (!AfxPumpMessage(&current)) {
+            if (!AfxPumpThread(&current)) {
                 // The quit message is the outer loop's as well.
                 AfxPostQuitMessage(static_cast<int>(current.wParam));
                 m_nFlags &= ~(WF_MODALLOOP | WF_CONTINUEMODAL);

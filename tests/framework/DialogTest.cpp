@@ -134,3 +134,47 @@ TEST(CDialog, ModalOverModal) {
     EXPECT_EQ(innerResult, 2);
     EXPECT_TRUE(outerEnabled) << "without a main window nothing stands below the inner one";
 }
+
+TEST(CDialog, MainFrameIsDisabledForAnyOwner) {
+    CFrameWnd *frame = new CFrameWnd;
+    ASSERT_TRUE(frame->Create(nullptr, "main", WS_OVERLAPPEDWINDOW, CRect(0, 0, 300, 300)));
+    frame->ShowWindow(SW_SHOW);
+    TestApp::Get().m_pMainWnd = frame;
+    PlainWnd owner;
+    owner.ShowWindow(SW_SHOW);
+    PlainDialog dialog(&owner);
+    std::string seen;
+    InLoop act([&] {
+        seen = frame->IsWindowEnabled() ? "enabled" : "disabled";
+        dialog.EndDialog(1);
+    });
+    EXPECT_EQ(dialog.DoModal(), 1);
+    EXPECT_EQ(seen, "disabled");
+    EXPECT_TRUE(frame->IsWindowEnabled());
+    TestApp::Get().m_pMainWnd = nullptr;
+    frame->DestroyWindow();
+}
+
+TEST(CDialog, DestroyedFromWithinEndsItsLoop) {
+    PlainDialog dialog;
+    InLoop act([&] { dialog.DestroyWindow(); });
+    EXPECT_EQ(dialog.DoModal(), -1);
+}
+
+namespace {
+class FailingControl : public CWnd {
+public:
+    BOOL ended = FALSE;
+
+protected:
+    void PreSubclassWindow() override { AfxThrowMemoryException(); }
+    void PostNcDestroy() override { ended = TRUE; }
+};
+} // namespace
+
+TEST(CWnd, FailureBeforeTheFirstMessageRefusesTheWindow) {
+    FailingControl control;
+    EXPECT_FALSE(control.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
+    EXPECT_EQ(control.m_hWnd, nullptr);
+    EXPECT_TRUE(control.ended);
+}

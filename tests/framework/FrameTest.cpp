@@ -109,6 +109,9 @@ TEST_F(Frame, StatusBarShowsPromptsAndPanes) {
     frame->bar.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
     const bool caps = (::GetKeyState(VK_CAPITAL) & 1) != 0;
     EXPECT_EQ((frame->bar.GetPaneStyle(1) & SBPS_DISABLED) == 0, caps);
+    char shown[16] = "";
+    frame->bar.SendMessage(SB_GETTEXT, 1, reinterpret_cast<LPARAM>(shown));
+    EXPECT_STREQ(shown, caps ? "CAP" : "");
     EXPECT_TRUE(frame->bar.SetPaneText(1, "X"));
     EXPECT_FALSE(frame->bar.SetPaneText(2, "X"));
 }
@@ -122,17 +125,29 @@ TEST_F(Frame, AcceleratorsBecomeCommands) {
 }
 
 TEST_F(Frame, ModalStateNests) {
-    PlainWnd other;
-    other.ShowWindow(SW_SHOW);
+    CWnd other;
+    other.CreateEx(0, nullptr, "", WS_POPUP | WS_VISIBLE, 0, 0, 10, 10, frame->m_hWnd, nullptr);
+    PlainWnd stranger;
     frame->BeginModalState();
     frame->BeginModalState();
     EXPECT_FALSE(frame->IsWindowEnabled());
     EXPECT_FALSE(other.IsWindowEnabled());
+    EXPECT_TRUE(stranger.IsWindowEnabled());
     frame->EndModalState();
     EXPECT_FALSE(other.IsWindowEnabled());
     frame->EndModalState();
     EXPECT_TRUE(frame->IsWindowEnabled());
     EXPECT_TRUE(other.IsWindowEnabled());
+}
+
+TEST_F(Frame, DisabledFrameTakesItsPopupsAlong) {
+    CWnd popup;
+    popup.CreateEx(0, nullptr, "", WS_POPUP | WS_VISIBLE, 0, 0, 10, 10, frame->m_hWnd, nullptr);
+    frame->EnableWindow(FALSE);
+    EXPECT_FALSE(popup.IsWindowEnabled());
+    frame->EnableWindow(TRUE);
+    EXPECT_TRUE(popup.IsWindowEnabled());
+    EXPECT_TRUE(frame->IsWindowEnabled());
 }
 
 TEST_F(Frame, IdleTimeLeavesTheCaptionAlone) {
@@ -175,6 +190,11 @@ public:
     ~TestChild() override { living--; }
 
 protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        if (wParam == ID_TEST_CHILD)
+            g_log += m_name + ":command ";
+        return CMDIChildWnd::OnCommand(wParam, lParam);
+    }
     afx_msg void OnOne() { g_log += m_name + ":one "; }
     DECLARE_MESSAGE_MAP()
     std::string m_name;
@@ -234,7 +254,8 @@ TEST_F(Mdi, ActiveChildGetsCommandsFirst) {
     EXPECT_EQ(frame->MDIGetActive(), a);
     frame->SendMessage(WM_COMMAND, ID_TEST_ONE);
     frame->SendMessage(WM_COMMAND, ID_TEST_TWO);
-    EXPECT_EQ(g_log, "frame:one b:one a:one frame:two ");
+    frame->SendMessage(WM_COMMAND, ID_TEST_CHILD);
+    EXPECT_EQ(g_log, "frame:one b:one a:one frame:two a:command ");
     EXPECT_EQ(a->GetMDIFrame(), frame);
     EXPECT_EQ(a->GetParentFrame(), frame);
 }

@@ -251,6 +251,9 @@ TEST(WindowProcedure, NoExceptionLeavesIt) {
     wnd.action = [] { throw std::bad_alloc(); };
     wnd.SendMessage(kUserMessage);
     EXPECT_EQ(app.TakeBoxes(), "Out of memory.");
+    wnd.action = [] { throw 5; };
+    wnd.SendMessage(kUserMessage);
+    EXPECT_EQ(app.TakeBoxes(), "An unknown error has occurred.");
     wnd.action = [] { AfxThrowFileException(CFileException::fileNotFound, -1, "x.dat"); };
     EXPECT_EQ(wnd.SendMessage(WM_COMMAND, ID_TEST_ONE), 1) << "a command counts as handled";
     EXPECT_EQ(app.TakeBoxes(), "x.dat was not found.");

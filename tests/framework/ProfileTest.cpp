@@ -37,6 +37,10 @@ TEST_F(Profile, NumbersTextsAndBytes) {
 
 TEST_F(Profile, RecentFilesMoveToTheFront) {
     CRecentFileList list(0, "Recent", "File%d", 3);
+    for (LPCTSTR name : {"C:\\a", "C:\\b", "C:\\A"})
+        list.Add(name);
+    EXPECT_STREQ(list[0], "C:\\A");
+    EXPECT_STREQ(list[2], "") << "case does not make another file";
     for (LPCTSTR name : {"C:\\a", "C:\\b", "C:\\c", "C:\\A", "C:\\d"})
         list.Add(name);
     EXPECT_STREQ(list[0], "C:\\d");

@@ -20,8 +20,12 @@ TEST(CWnd, TemporaryObjectsLiveUntilIdleAndDoNotOwn) {
     CString text;
     temporary->GetWindowText(text);
     EXPECT_STREQ(text, "foreign");
+    PlainWnd marker;
+    temporary->SetOwner(&marker);
     TestApp::Get().OnIdle(0);
+    EXPECT_EQ(CWnd::FromHandle(handle)->GetOwner(), &marker);
     TestApp::Get().OnIdle(1);
+    EXPECT_NE(CWnd::FromHandle(handle)->GetOwner(), &marker) << "another object";
     EXPECT_TRUE(::IsWindow(handle));
     ::DestroyWindow(handle);
 }
