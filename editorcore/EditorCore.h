@@ -90,7 +90,10 @@ public:
     void GetColName(int gridCol, CString &name);
     int GetDataSrcField(int gridCol) const;
     int GetGridField(int field) const;
-    void SetCellType(const char *fieldName, int id) { m_pColCellTypes->SetCellType(fieldName, id); }
+    void SetCellType(const char *fieldName, int id) {
+        if (m_pColCellTypes != nullptr)
+            m_pColCellTypes->SetCellType(fieldName, id);
+    }
     // In screen coordinates.
     void GetCurCellRect(CRect *rect);
 
@@ -185,7 +188,7 @@ protected:
     CArray<long, long> m_ValidatingCellTypes;
     int m_nNextCellTypeId = 200;
     bool m_bUsingBackupFile = true;
-    CCommandListMgr *m_pCommandList = nullptr; // these three owned
+    CCommandListMgr *m_pCommandList = nullptr; // these three owned, null where the constructor ran out of memory
     CEditorLayout *m_pLayout = nullptr;
     CColumnCellTypeMap *m_pColCellTypes = nullptr;
 

@@ -184,7 +184,8 @@ void CEditorCore::OnParentActivate(int, CView *, CView *) {}
 void CEditorCore::SetTextAlignment() {}
 
 void CEditorCore::SetEditorCoreOptions(int undoLevels, int maxDisplayColWidth, bool enterKeyIsTab) {
-    m_pCommandList->SetMaxCommands(undoLevels);
+    if (m_pCommandList != nullptr)
+        m_pCommandList->SetMaxCommands(undoLevels);
     ms_nMaxDisplayColWidth = maxDisplayColWidth;
     ms_bEnterKeyIsTab = enterKeyIsTab;
 }

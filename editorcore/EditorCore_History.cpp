@@ -18,7 +18,7 @@ void CEditorCore::Undo() {
         return;
     }
     CUGDataSource *source = GetCurrentDataSrc(false);
-    if (m_pCommandList->CanUndo()) {
+    if (m_pCommandList != nullptr && m_pCommandList->CanUndo()) {
         m_pCommandList->Undo(true);
         UpdateTitle();
     } else if (source != nullptr && source->CanUndo()) {
@@ -36,7 +36,7 @@ void CEditorCore::Redo() {
         return;
     }
     CUGDataSource *source = GetCurrentDataSrc(false);
-    if (m_pCommandList->CanRedo()) {
+    if (m_pCommandList != nullptr && m_pCommandList->CanRedo()) {
         m_pCommandList->Redo();
         UpdateTitle();
     } else if (source != nullptr && source->CanRedo()) {
@@ -46,7 +46,7 @@ void CEditorCore::Redo() {
 }
 
 bool CEditorCore::CanUndo() {
-    if (m_pCommandList->CanUndo())
+    if (m_pCommandList != nullptr && m_pCommandList->CanUndo())
         return true;
     if (!m_bEditUndone && CanEditBoxUndo(GetEditControl()))
         return true;
@@ -57,7 +57,7 @@ bool CEditorCore::CanUndo() {
 bool CEditorCore::CanRedo() {
     if (GetEditControl() != nullptr && m_bEditUndone)
         return true;
-    if (m_pCommandList->CanRedo())
+    if (m_pCommandList != nullptr && m_pCommandList->CanRedo())
         return true;
     CUGDataSource *source = GetCurrentDataSrc(false);
     return source != nullptr && source->CanRedo();

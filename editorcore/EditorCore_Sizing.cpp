@@ -33,6 +33,8 @@ int CEditorCore::OnSideHdgSizing(int *size) {
 }
 
 void CEditorCore::OnColSized(int col, int *width) {
+    if (m_pLayout == nullptr)
+        return;
     if (col != -1) {
         m_pLayout->SetColWidth(col, *width);
         return;
@@ -42,5 +44,6 @@ void CEditorCore::OnColSized(int col, int *width) {
 }
 
 void CEditorCore::OnRowSized(long, int *height) {
-    m_pLayout->SetRowHeight(*height);
+    if (m_pLayout != nullptr)
+        m_pLayout->SetRowHeight(*height);
 }

@@ -59,8 +59,8 @@ public:
     bool m_answersWritable = true;        // whether option 7 is known at all
     std::map<std::string, int> m_results; // by operation's name: what it answers instead, having done nothing
     long m_reads = 0;                     // GetCell calls
-    std::vector<long> m_rowsRead; // of those of cells, not of the side heading
-    long m_growsBy = -1; // rows that RequestMoreRows reports; below 0 it is not supported
+    std::vector<long> m_rowsRead;         // of those of cells, not of the side heading
+    long m_growsBy = -1;                  // rows that RequestMoreRows reports; below 0 it is not supported
 
 private:
     int Done(const std::string &operation, const std::string &arguments);

@@ -1,0 +1,261 @@
+// Opening a table and closing it.
+#include "EditorWindowTest.h"
+
+namespace {
+
+class EditorLoadTest : public EditorWindowTest {
+protected:
+    // The calls of a load up to the first question behind Open.
+    std::string OpenedWith(const char *table, int mode, const char *options) {
+        TestEditor &editor = Make();
+        Source(2, 2);
+        m_log.Take();
+        editor.LoadData("p", table, mode, options);
+        const std::string calls = m_log.Take();
+        const size_t begin = calls.find("src.Open(");
+        return calls.substr(begin, calls.find(" src.GetOption") - begin);
+    }
+};
+
+TEST_F(EditorLoadTest, ALoadCallsSourceAndHostInOrderAndTellsTheParent) {
+    TestEditor &editor = Make();
+    Forget();
+    Source(2, 3);
+    EXPECT_TRUE(editor.LoadData("p", "T", kEditNormal, "o "));
+    EXPECT_EQ("Create(p) src.Open(p,o -table T) src.GetOption(7) CustomOptions TextAlignment", m_log.Take());
+    EXPECT_EQ("1051(0,0)", m_host.TakeMessages());
+    EXPECT_EQ("cur=(0,0) size=2x3", editor.State());
+    EXPECT_TRUE(editor.IsDataSrcOpen());
+    EXPECT_STREQ("p", editor.GetFilePath());
+    EXPECT_STREQ("T", editor.GetTableName());
+    EXPECT_EQ(editor.Cells(), ::GetFocus());
+    EXPECT_EQ(nullptr, ::GetCapture());
+}
+
+TEST_F(EditorLoadTest, TheOpenStringIsPutTogetherWithoutSeparators) {
+    EXPECT_EQ("src.Open(p,x -table T-view )", OpenedWith("T", kEditReadOnly, "x "));
+    EXPECT_EQ("src.Open(p,x )", OpenedWith(nullptr, kEditNormal, "x "));
+    EXPECT_EQ("src.Open(p,-view )", OpenedWith(nullptr, kEditReadOnly, ""));
+    EXPECT_EQ("src.Open(p,-table )", OpenedWith("", kEditVerify, ""));
+}
+
+TEST_F(EditorLoadTest, WithoutASourceTheLoadFailsWithoutAWord) {
+    TestEditor &editor = Make();
+    Forget();
+    EXPECT_FALSE(editor.LoadData("p", nullptr, kEditVerify, ""));
+    EXPECT_EQ("Create(p)", m_log.Take());
+    EXPECT_EQ("", TestApp().TakeBoxes());
+    EXPECT_EQ("", m_host.TakeMessages());
+    EXPECT_EQ(kEditVerify, editor.GetEditMode());
+    EXPECT_STREQ("", editor.GetFilePath());
+    EXPECT_FALSE(editor.IsDataSrcOpen());
+}
+
+TEST_F(EditorLoadTest, ASourceThatDoesNotOpenIsDeletedWithoutAWord) {
+    TestEditor &editor = Make();
+    Forget();
+    Source(2, 2)->m_results["Open"] = 1;
+    EXPECT_FALSE(editor.LoadData("p", nullptr, kEditNormal, ""));
+    EXPECT_EQ("Create(p) src.Open(p,) src.delete", m_log.Take());
+    EXPECT_EQ("", TestApp().TakeBoxes());
+    EXPECT_EQ(nullptr, editor.GetCurrentDataSrc(false));
+}
+
+TEST_F(EditorLoadTest, AnEditorThatRanOutOfMemoryLivesOnAndRefusesLoads) {
+    m_service.m_options.m_outOfMemory = true;
+    TestEditor &editor = Make();
+    m_service.m_options.m_outOfMemory = false;
+    EXPECT_EQ("Out of memory!|16", TestApp().TakeBoxes());
+    EXPECT_TRUE(editor.ConstructFailed());
+    EXPECT_EQ(nullptr, editor.Commands());
+    EXPECT_EQ(nullptr, editor.Layout());
+    EXPECT_EQ(nullptr, editor.Types());
+    std::unique_ptr<RecordingSource> source(Source(1, 1));
+    Forget();
+    EXPECT_FALSE(editor.LoadData("p", nullptr, kEditNormal, ""));
+    EXPECT_EQ("Cannot load file due to low memory!|16", TestApp().TakeBoxes());
+    EXPECT_EQ("Create(p)", m_log.Take()); // the source is neither opened nor deleted
+}
+
+TEST_F(EditorLoadTest, AnEditorThatRanOutOfMemoryStandsTheCommandsOfAHost) {
+    m_service.m_options.m_outOfMemory = true;
+    TestEditor &editor = Make();
+    m_service.m_options.m_outOfMemory = false;
+    EXPECT_FALSE(editor.CanUndo());
+    EXPECT_FALSE(editor.CanRedo());
+    editor.Undo();
+    editor.Redo();
+    editor.EmptyUndoList();
+    editor.SetEditorCoreOptions(3, 10, false);
+    editor.SetCellType("F0", 3);
+    editor.OnSave(0);
+    editor.OnDataSourceNotify(0, 1, 0);
+    int size = 30;
+    editor.OnColSized(0, &size);
+    editor.OnRowSized(0, &size);
+    editor.OnColSized(-1, &size);
+    EXPECT_EQ(-1, editor.GetDataSrcField(0));
+    EXPECT_EQ(-1, editor.GetGridField(0));
+    EXPECT_TRUE(editor.CloseDataSource(false));
+}
+
+TEST_F(EditorLoadTest, ClicksOfTheLoadAreDroppedAndKeysArrive) {
+    TestEditor &editor = Make();
+    Source(2, 2);
+    Forget();
+    for (UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK})
+        ::PostMessageA(editor.Cells(), message, 0, MAKELPARAM(150, 30));
+    ::PostMessageA(editor.Cells(), WM_KEYUP, VK_F2, 1);
+    editor.LoadData("p", nullptr, kEditNormal, "");
+    PumpAll();
+    EXPECT_EQ("Create(p) src.Open(p,) src.GetOption(7) KeyUp(113) CustomOptions TextAlignment", m_log.Take());
+    EXPECT_EQ("cur=(0,0) size=2x2", editor.State());
+}
+
+TEST_F(EditorLoadTest, ASourceThatCannotBeWrittenMakesTheEditorReadOnly) {
+    TestEditor &editor = Make();
+    Source(2, 2)->m_writable = false;
+    EXPECT_TRUE(editor.LoadData("p", nullptr, kEditVerify, ""));
+    EXPECT_EQ(kEditReadOnly, editor.GetEditMode());
+    EXPECT_TRUE(editor.IsGridReadOnly());
+}
+
+TEST_F(EditorLoadTest, ASourceThatDoesNotKnowTheQuestionLeavesTheMode) {
+    TestEditor &editor = Make();
+    RecordingSource *source = Source(2, 2);
+    source->m_answersWritable = false;
+    EXPECT_TRUE(editor.LoadData("p", nullptr, kEditVerify, ""));
+    EXPECT_EQ(kEditVerify, editor.GetEditMode());
+    EXPECT_FALSE(editor.IsGridReadOnly());
+}
+
+TEST_F(EditorLoadTest, ANewLoadClosesTheOldTableFirst) {
+    TestEditor &editor = Open(2, 3);
+    Source(4, 5, "new");
+    EXPECT_TRUE(editor.LoadData("q", nullptr, kEditNormal, ""));
+    EXPECT_EQ("Create(q) src.Close(0) src.delete new.Open(q,) new.GetOption(7) CustomOptions TextAlignment",
+              m_log.Take());
+    EXPECT_EQ("cur=(0,0) size=4x5", editor.State());
+    EXPECT_STREQ("q", editor.GetFilePath());
+}
+
+TEST_F(EditorLoadTest, ARefusedCloseKeepsTitleAndRows) {
+    TestEditor &editor = Open(2, 3);
+    m_source->m_results["Close"] = 1;
+    EXPECT_FALSE(editor.CloseDataSource(true));
+    EXPECT_EQ("src.Close(1)", m_log.Take());
+    Source(4, 5, "new");
+    EXPECT_FALSE(editor.LoadData("q", nullptr, kEditNormal, ""));
+    EXPECT_TRUE(editor.IsDataSrcOpen());
+    EXPECT_EQ("cur=(0,0) size=2x3", editor.State());
+    EXPECT_STREQ("table", editor.GetFilePath());
+    EXPECT_EQ(m_source, editor.GetCurrentDataSrc(false));
+    EXPECT_EQ("", TestApp().TakeBoxes());
+    m_source->m_results.clear();
+}
+
+TEST_F(EditorLoadTest, ClosingEmptiesTheGridAndDeletesTheSource) {
+    TestEditor &editor = Open(2, 3);
+    EXPECT_TRUE(editor.CloseDataSource(true));
+    EXPECT_EQ("src.Close(1) src.delete", m_log.Take());
+    EXPECT_EQ("cur=(0,0) size=0x0", editor.State());
+    EXPECT_FALSE(editor.IsDataSrcOpen());
+    EXPECT_EQ(nullptr, editor.GetCurrentDataSrc(false));
+    EXPECT_TRUE(editor.CloseDataSource(false));
+    EXPECT_EQ("", m_log.Take());
+}
+
+TEST_F(EditorLoadTest, AnEditorOfTheFileItselfSavesBeforeItCloses) {
+    TestEditor &editor = Open(2, 3);
+    editor.SetIsUsingBackupFile(false);
+    EXPECT_TRUE(editor.CloseDataSource(false));
+    EXPECT_EQ("src.Save() src.Close(0) src.delete", m_log.Take());
+}
+
+TEST_F(EditorLoadTest, ClosingTakesTheEditInProgressWithIt) {
+    TestEditor &editor = Open(2, 3);
+    editor.StartEdit();
+    TypeText(editor.Edit(), "x");
+    editor.CloseDataSource(false);
+    EXPECT_EQ("src.StartTransaction() src.EndTransaction() Title(table,null) src.SetCell(0,0,x) "
+              "Title(table,null) src.Close(0) src.delete",
+              m_log.Take());
+}
+
+TEST_F(EditorLoadTest, TheWindowsEndClosesTheTable) {
+    TestEditor &editor = Open(2, 3);
+    editor.DestroyWindow();
+    EXPECT_EQ("src.Close(0) src.delete", m_log.Take());
+}
+
+TEST_F(EditorLoadTest, TheEditorsEndDropsARefusingSource) {
+    Open(2, 3);
+    m_source->m_results["Close"] = 1;
+    m_editors.clear();
+    EXPECT_EQ("src.Close(0) src.delete", m_log.Take());
+}
+
+TEST_F(EditorLoadTest, ANewFileGetsAnEmptyLayoutFileAndItsLayoutAtTheClose) {
+    const std::string path = MakeFile("t.dat");
+    TestEditor &editor = Make();
+    Source(2, 3);
+    ASSERT_TRUE(editor.LoadData(path.c_str(), nullptr, kEditNormal, ""));
+    EXPECT_EQ("", Content(PathOf("tdat.@layout")));
+    editor.CloseDataSource(false);
+    EXPECT_LT(20u, Content(PathOf("tdat.@layout")).size());
+}
+
+TEST_F(EditorLoadTest, AStoredLayoutComesBack) {
+    const std::string path = MakeFile("t.dat");
+    TestEditor &editor = Make();
+    Source(2, 3);
+    editor.LoadData(path.c_str(), nullptr, kEditNormal, "");
+    int width = 77;
+    editor.SetColWidth(1, width);
+    editor.OnColSized(1, &width);
+    editor.CloseDataSource(false);
+    Source(2, 3);
+    editor.LoadData(path.c_str(), nullptr, kEditNormal, "");
+    width = 0;
+    editor.GetColWidth(1, &width);
+    EXPECT_EQ(77, width);
+    EXPECT_EQ(1, editor.GetDataColNumber(1));
+}
+
+TEST_F(EditorLoadTest, ALayoutOfAnotherNumberOfFieldsGivesWayToADefault) {
+    const std::string path = MakeFile("t.dat");
+    TestEditor &editor = Make();
+    Source(2, 3);
+    editor.LoadData(path.c_str(), nullptr, kEditNormal, "");
+    editor.CloseDataSource(false);
+    Source(3, 3, "new");
+    m_log.Take();
+    EXPECT_TRUE(editor.LoadData(path.c_str(), nullptr, kEditNormal, ""));
+    EXPECT_EQ("cur=(0,0) size=3x3", editor.State());
+    const std::string calls = m_log.Take();
+    EXPECT_NE(std::string::npos, calls.find("Wait(1) Wait(-1)")) << calls;
+}
+
+TEST_F(EditorLoadTest, ACorruptLayoutGivesWayToADefaultAndIsOverwritten) {
+    const std::string path = MakeFile("t.dat");
+    MakeFile("tdat.@layout", std::string("\x04\0\0\0\0\x01\0\0\0\xff\xff\xff", 12));
+    TestEditor &editor = Make();
+    Source(2, 3);
+    EXPECT_TRUE(editor.LoadData(path.c_str(), nullptr, kEditNormal, ""));
+    EXPECT_EQ("cur=(0,0) size=2x3", editor.State());
+    EXPECT_EQ("", TestApp().TakeBoxes());
+    editor.CloseDataSource(false);
+    EXPECT_LT(20u, Content(PathOf("tdat.@layout")).size());
+}
+
+TEST_F(EditorLoadTest, WithoutAutomaticLayoutNoFileIsTouched) {
+    const std::string path = MakeFile("t.dat");
+    TestEditor &editor = Make();
+    editor.AutoSaveLayoutInfo(false);
+    Source(2, 3);
+    EXPECT_TRUE(editor.LoadData(path.c_str(), nullptr, kEditNormal, ""));
+    editor.CloseDataSource(false);
+    EXPECT_EQ("none", Content(PathOf("tdat.@layout")));
+}
+
+} // namespace

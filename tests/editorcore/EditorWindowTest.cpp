@@ -1,0 +1,75 @@
+#include "EditorWindowTest.h"
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace fs = std::filesystem;
+
+std::string TestEditor::State() {
+    return "cur=(" + std::to_string(GetCurrentCol()) + "," + std::to_string(GetCurrentRow()) +
+           ") size=" + std::to_string(GetNumberCols()) + "x" + std::to_string(CUGCtrl::GetNumberRows());
+}
+
+void TestEditor::OnLClicked(int col, long row, int updn, RECT *rect, POINT *point, int processed) {
+    m_log->Note("Click(" + std::to_string(col) + "," + std::to_string(row) + ")");
+    CEditorCore::OnLClicked(col, row, updn, rect, point, processed);
+}
+
+EditorWindowTest::EditorWindowTest() {
+    m_folder = (fs::temp_directory_path() / ("orvane" + std::to_string(::GetCurrentProcessId()))).string();
+    fs::create_directories(m_folder);
+    CEditorCore::Initialise(&m_service);
+    TestApp().Answer({});
+    TestApp().TakeBoxes();
+}
+
+EditorWindowTest::~EditorWindowTest() {
+    m_editors.clear();
+    EXPECT_EQ(0, TestEditor::Live());
+    std::error_code ignored;
+    fs::remove_all(m_folder, ignored);
+    TestApp().m_whileUp = nullptr;
+}
+
+TestEditor &EditorWindowTest::Make() {
+    m_editors.push_back(std::make_unique<TestEditor>(&m_log));
+    TestEditor &editor = *m_editors.back();
+    editor.CreateGrid(WS_VISIBLE, CRect(0, 0, 500, 300), &m_host, 200 + static_cast<UINT>(m_editors.size()));
+    return editor;
+}
+
+RecordingSource *EditorWindowTest::Source(int fields, long rows, const std::string &name) {
+    auto *source = new RecordingSource(&m_log, fields, rows, name);
+    m_service.m_sources.push_back(source);
+    return source;
+}
+
+TestEditor &EditorWindowTest::Open(int fields, long rows, int mode) {
+    TestEditor &editor = Make();
+    m_source = Source(fields, rows);
+    EXPECT_TRUE(editor.LoadData("table", nullptr, mode, ""));
+    Forget();
+    return editor;
+}
+
+void EditorWindowTest::Forget() {
+    PumpAll();
+    m_log.Take();
+    m_host.TakeMessages();
+    TestApp().TakeBoxes();
+}
+
+std::string EditorWindowTest::MakeFile(const char *name, const std::string &content) {
+    std::ofstream(PathOf(name), std::ios::binary) << content;
+    return PathOf(name);
+}
+
+std::string EditorWindowTest::Content(const std::string &path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file)
+        return "none";
+    std::ostringstream all;
+    all << file.rdbuf();
+    return all.str();
+}

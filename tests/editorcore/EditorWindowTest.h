@@ -1,0 +1,66 @@
+// The fixture of the editor's window tests: editors in a host window, and the host's services recorded.
+#pragma once
+
+#include "editorcore/EditorCore.h"
+
+#include "RecordingHost.h"
+#include "RecordingSource.h"
+#include "WindowTestApp.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class TestEditor : public CEditorCore {
+public:
+    explicit TestEditor(CallLog *log) : m_log(log) {}
+
+    HWND Cells() const { return m_grid.GetSafeHwnd(); }
+    HWND Edit() const { return m_grid.m_edit.GetSafeHwnd(); }
+    CCommandListMgr *Commands() { return m_pCommandList; }
+    CEditorLayout *Layout() { return m_pLayout; }
+    CColumnCellTypeMap *Types() { return m_pColCellTypes; }
+    bool ConstructFailed() const { return m_bConstructFailed; }
+    void RequestAbort() { m_bAbortRequested = true; }
+    bool Abort() { return AbortOperation(); }
+    static CFont *CellFont() { return ms_pCellFont; }
+    static CFont *HeadingFont() { return ms_pHeadingFont; }
+    static int MaxDisplayColWidth() { return ms_nMaxDisplayColWidth; }
+    static int Live() { return static_cast<int>(m_InstanceList.GetSize()); }
+    std::string State();
+
+    void SetCustomOptions() override { m_log->Note("CustomOptions"); }
+    void SetTextAlignment() override { m_log->Note("TextAlignment"); }
+    void OnLClicked(int col, long row, int updn, RECT *rect, POINT *point, int processed) override;
+    void OnKeyUp(UINT *key, int) override { m_log->Note("KeyUp(" + std::to_string(*key) + ")"); }
+
+private:
+    CallLog *m_log;
+};
+
+class EditorWindowTest : public testing::Test {
+protected:
+    EditorWindowTest();
+    ~EditorWindowTest() override;
+
+    // A new editor with its window.
+    TestEditor &Make();
+    // A source that the next load gets; the editor owns it then.
+    RecordingSource *Source(int fields, long rows, const std::string &name = "src");
+    // An editor with a source open, and everything noted so far forgotten.
+    TestEditor &Open(int fields, long rows, int mode = kEditNormal);
+    void Forget();
+    // A file of the test's own folder; made with this content.
+    std::string MakeFile(const char *name, const std::string &content = "data");
+    std::string PathOf(const char *name) const { return m_folder + "\\" + name; }
+    static std::string Content(const std::string &path);
+
+    CallLog m_log;
+    RecordingHost m_service{&m_log};
+    std::string m_folder;
+    HostWindow m_host;
+    std::vector<std::unique_ptr<TestEditor>> m_editors;
+    RecordingSource *m_source = nullptr; // of Open; borrowed
+};
