@@ -101,16 +101,7 @@ public:
 class ORVANEFW_API CArchiveException : public CException {
     DECLARE_DYNAMIC(CArchiveException)
 public:
-    enum {
-        none,
-        genericException,
-        readOnly,
-        endOfFile,
-        writeOnly,
-        badIndex,
-        badClass,
-        badSchema
-    };
+    enum { none, genericException, readOnly, endOfFile, writeOnly, badIndex, badClass, badSchema };
 
     explicit CArchiveException(int cause = none, LPCSTR archiveName = nullptr);
     BOOL GetErrorMessage(LPSTR buffer, UINT capacity, UINT *helpContext = nullptr) const override;

@@ -144,9 +144,15 @@ ORVANEFW_API CString operator+(const CString &left, char right);
 ORVANEFW_API CString operator+(char left, const CString &right);
 
 #define ORVANEFW_STRING_COMPARISON(op)                                                                       \
-    inline bool operator op(const CString &left, const CString &right) { return left.Compare(right) op 0; }  \
-    inline bool operator op(const CString &left, LPCSTR right) { return left.Compare(right) op 0; }          \
-    inline bool operator op(LPCSTR left, const CString &right) { return 0 op right.Compare(left); }
+    inline bool operator op(const CString &left, const CString &right) {                                     \
+        return left.Compare(right) op 0;                                                                     \
+    }                                                                                                        \
+    inline bool operator op(const CString &left, LPCSTR right) {                                             \
+        return left.Compare(right) op 0;                                                                     \
+    }                                                                                                        \
+    inline bool operator op(LPCSTR left, const CString &right) {                                             \
+        return 0 op right.Compare(left);                                                                     \
+    }
 ORVANEFW_STRING_COMPARISON(==)
 ORVANEFW_STRING_COMPARISON(!=)
 ORVANEFW_STRING_COMPARISON(<)

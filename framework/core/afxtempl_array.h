@@ -44,10 +44,10 @@ public:
     void RemoveAt(int index, int count = 1);
 
 private:
-    static constexpr int kMostElements =
-        static_cast<int>(std::numeric_limits<int>::max() / sizeof(TYPE) < std::size_t(std::numeric_limits<int>::max())
-                             ? std::numeric_limits<int>::max() / sizeof(TYPE)
-                             : std::numeric_limits<int>::max());
+    static constexpr int kMostElements = static_cast<int>(std::numeric_limits<int>::max() / sizeof(TYPE) <
+                                                                  std::size_t(std::numeric_limits<int>::max())
+                                                              ? std::numeric_limits<int>::max() / sizeof(TYPE)
+                                                              : std::numeric_limits<int>::max());
 
     int Checked(int index) const {
         if (index < 0 || index >= m_size)
@@ -97,7 +97,8 @@ template <class TYPE, class ARG_TYPE> void CArray<TYPE, ARG_TYPE>::Reserve(int s
     if (m_growBy == 0)
         growBy = growBy < 4 ? 4 : (growBy > 1024 ? 1024 : growBy);
     // The first block is exactly what was asked for.
-    const int grown = m_capacity == 0 ? size : (m_capacity > kMostElements - growBy ? size : m_capacity + growBy);
+    const int grown =
+        m_capacity == 0 ? size : (m_capacity > kMostElements - growBy ? size : m_capacity + growBy);
     Reallocate(grown < size ? size : grown);
 }
 

@@ -61,7 +61,9 @@ public:
     CRect(int l, int t, int r, int b) { SetRect(l, t, r, b); }
     CRect(const RECT &rect) { CopyRect(&rect); }
     CRect(const RECT *rect) { CopyRect(rect); }
-    CRect(POINT topLeft, SIZE size) { SetRect(topLeft.x, topLeft.y, topLeft.x + size.cx, topLeft.y + size.cy); }
+    CRect(POINT topLeft, SIZE size) {
+        SetRect(topLeft.x, topLeft.y, topLeft.x + size.cx, topLeft.y + size.cy);
+    }
     CRect(POINT topLeft, POINT bottomRight) { SetRect(topLeft.x, topLeft.y, bottomRight.x, bottomRight.y); }
     void operator=(const RECT &rect) { CopyRect(&rect); }
 

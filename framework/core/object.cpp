@@ -7,7 +7,8 @@ CObject *CRuntimeClass::CreateObject() {
 }
 
 BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass *base) const {
-    for (const CRuntimeClass *cls = this; cls; cls = cls->m_pfnGetBaseClass ? cls->m_pfnGetBaseClass() : nullptr)
+    for (const CRuntimeClass *cls = this; cls;
+         cls = cls->m_pfnGetBaseClass ? cls->m_pfnGetBaseClass() : nullptr)
         if (cls == base)
             return TRUE;
     return FALSE;

@@ -44,8 +44,8 @@ constexpr int CN_UPDATE_COMMAND_UI = -1;
 class ORVANEFW_API CCmdTarget : public CObject {
     DECLARE_DYNAMIC(CCmdTarget)
 public:
-    // Finds and calls the handler of a command, control notification or update. nCode holds the message in its
-    // upper word when it is not WM_COMMAND. TRUE when handled.
+    // Finds and calls the handler of a command, control notification or update. nCode holds the message in
+    // its upper word when it is not WM_COMMAND. TRUE when handled.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void *pExtra, AFX_CMDHANDLERINFO *pHandlerInfo);
 
     void BeginWaitCursor();

@@ -1,7 +1,7 @@
 // The common controls, thinly wrapped.
 //
-// Differences from MFC: only the members that a table editor and its host commonly need; whatever is missing can
-// be had with SendMessage.
+// Differences from MFC: only the members that a table editor and its host commonly need; whatever is missing
+// can be had with SendMessage.
 #pragma once
 
 #include <afxwin.h>
@@ -32,7 +32,9 @@ public:
     BOOL SetItemText(int index, int subItem, LPCTSTR text);
     DWORD_PTR GetItemData(int index) const;
     BOOL SetItemData(int index, DWORD_PTR data);
-    UINT GetItemState(int index, UINT mask) const { return UINT(SendMessage(LVM_GETITEMSTATE, WPARAM(index), mask)); }
+    UINT GetItemState(int index, UINT mask) const {
+        return UINT(SendMessage(LVM_GETITEMSTATE, WPARAM(index), mask));
+    }
     BOOL SetItemState(int index, UINT state, UINT mask);
     int GetNextItem(int index, int flags) const {
         return int(SendMessage(LVM_GETNEXTITEM, WPARAM(index), MAKELPARAM(flags, 0)));
@@ -42,11 +44,14 @@ public:
     BOOL EnsureVisible(int index, BOOL partialOk) {
         return BOOL(SendMessage(LVM_ENSUREVISIBLE, WPARAM(index), MAKELPARAM(partialOk, 0)));
     }
-    DWORD SetExtendedStyle(DWORD style) { return DWORD(SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LPARAM(style))); }
+    DWORD SetExtendedStyle(DWORD style) {
+        return DWORD(SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LPARAM(style)));
+    }
     DWORD GetExtendedStyle() const { return DWORD(SendMessage(LVM_GETEXTENDEDLISTVIEWSTYLE)); }
     BOOL GetCheck(int index) const { return ((GetItemState(index, LVIS_STATEIMAGEMASK) >> 12) - 1) == 1; }
     BOOL SetCheck(int index, BOOL check = TRUE) {
-        return SetItemState(index, static_cast<UINT>(INDEXTOSTATEIMAGEMASK(check ? 2 : 1)), LVIS_STATEIMAGEMASK);
+        return SetItemState(index, static_cast<UINT>(INDEXTOSTATEIMAGEMASK(check ? 2 : 1)),
+                            LVIS_STATEIMAGEMASK);
     }
     BOOL SortItems(PFNLVCOMPARE compare, LPARAM data) {
         return BOOL(SendMessage(LVM_SORTITEMS, WPARAM(data), LPARAM(compare)));
@@ -74,13 +79,17 @@ public:
     BOOL Create(DWORD style, const RECT &rect, CWnd *parent, UINT id);
     void SetRange(short least, short most) { SendMessage(UDM_SETRANGE, 0, MAKELPARAM(most, least)); }
     void SetRange32(int least, int most) { SendMessage(UDM_SETRANGE32, WPARAM(least), most); }
-    void GetRange32(int &least, int &most) const { SendMessage(UDM_GETRANGE32, WPARAM(&least), LPARAM(&most)); }
+    void GetRange32(int &least, int &most) const {
+        SendMessage(UDM_GETRANGE32, WPARAM(&least), LPARAM(&most));
+    }
     int SetPos(int position) { return int(SendMessage(UDM_SETPOS32, 0, position)); }
     int GetPos() const { return int(SendMessage(UDM_GETPOS32)); }
     CWnd *SetBuddy(CWnd *buddy) { return FromHandle(HWND(SendMessage(UDM_SETBUDDY, WPARAM(buddy->m_hWnd)))); }
     CWnd *GetBuddy() const { return FromHandle(HWND(SendMessage(UDM_GETBUDDY))); }
     int SetBase(int base) { return int(SendMessage(UDM_SETBASE, WPARAM(base))); }
-    BOOL SetAccel(int count, UDACCEL *steps) { return BOOL(SendMessage(UDM_SETACCEL, WPARAM(count), LPARAM(steps))); }
+    BOOL SetAccel(int count, UDACCEL *steps) {
+        return BOOL(SendMessage(UDM_SETACCEL, WPARAM(count), LPARAM(steps)));
+    }
 };
 
 class ORVANEFW_API CTabCtrl : public CWnd {
@@ -89,10 +98,16 @@ public:
     using CWnd::Create;
     BOOL Create(DWORD style, const RECT &rect, CWnd *parent, UINT id);
     int GetItemCount() const { return int(SendMessage(TCM_GETITEMCOUNT)); }
-    int InsertItem(int index, TCITEM *item) { return int(SendMessage(TCM_INSERTITEM, WPARAM(index), LPARAM(item))); }
+    int InsertItem(int index, TCITEM *item) {
+        return int(SendMessage(TCM_INSERTITEM, WPARAM(index), LPARAM(item)));
+    }
     int InsertItem(int index, LPCTSTR text);
-    BOOL GetItem(int index, TCITEM *item) const { return BOOL(SendMessage(TCM_GETITEM, WPARAM(index), LPARAM(item))); }
-    BOOL SetItem(int index, TCITEM *item) { return BOOL(SendMessage(TCM_SETITEM, WPARAM(index), LPARAM(item))); }
+    BOOL GetItem(int index, TCITEM *item) const {
+        return BOOL(SendMessage(TCM_GETITEM, WPARAM(index), LPARAM(item)));
+    }
+    BOOL SetItem(int index, TCITEM *item) {
+        return BOOL(SendMessage(TCM_SETITEM, WPARAM(index), LPARAM(item)));
+    }
     BOOL DeleteItem(int index) { return BOOL(SendMessage(TCM_DELETEITEM, WPARAM(index))); }
     BOOL DeleteAllItems() { return BOOL(SendMessage(TCM_DELETEALLITEMS)); }
     int GetCurSel() const { return int(SendMessage(TCM_GETCURSEL)); }
@@ -135,11 +150,15 @@ public:
         return BOOL(SendMessage(SB_SETTEXT, WPARAM(pane | type), LPARAM(text)));
     }
     CString GetText(int pane) const;
-    BOOL SetParts(int count, int *rightEdges) { return BOOL(SendMessage(SB_SETPARTS, WPARAM(count), LPARAM(rightEdges))); }
+    BOOL SetParts(int count, int *rightEdges) {
+        return BOOL(SendMessage(SB_SETPARTS, WPARAM(count), LPARAM(rightEdges)));
+    }
     int GetParts(int count, int *rightEdges) const {
         return int(SendMessage(SB_GETPARTS, WPARAM(count), LPARAM(rightEdges)));
     }
-    BOOL GetRect(int pane, LPRECT rect) const { return BOOL(SendMessage(SB_GETRECT, WPARAM(pane), LPARAM(rect))); }
+    BOOL GetRect(int pane, LPRECT rect) const {
+        return BOOL(SendMessage(SB_GETRECT, WPARAM(pane), LPARAM(rect)));
+    }
     void SetMinHeight(int height) { SendMessage(SB_SETMINHEIGHT, WPARAM(height)); }
 };
 
@@ -148,13 +167,21 @@ class ORVANEFW_API CToolBarCtrl : public CWnd {
 public:
     using CWnd::Create;
     BOOL Create(DWORD style, const RECT &rect, CWnd *parent, UINT id);
-    BOOL AddButtons(int count, TBBUTTON *buttons) { return BOOL(SendMessage(TB_ADDBUTTONS, WPARAM(count), LPARAM(buttons))); }
+    BOOL AddButtons(int count, TBBUTTON *buttons) {
+        return BOOL(SendMessage(TB_ADDBUTTONS, WPARAM(count), LPARAM(buttons)));
+    }
     BOOL DeleteButton(int index) { return BOOL(SendMessage(TB_DELETEBUTTON, WPARAM(index))); }
     int GetButtonCount() const { return int(SendMessage(TB_BUTTONCOUNT)); }
-    BOOL EnableButton(int id, BOOL enable = TRUE) { return BOOL(SendMessage(TB_ENABLEBUTTON, WPARAM(id), MAKELPARAM(enable, 0))); }
-    BOOL CheckButton(int id, BOOL check = TRUE) { return BOOL(SendMessage(TB_CHECKBUTTON, WPARAM(id), MAKELPARAM(check, 0))); }
+    BOOL EnableButton(int id, BOOL enable = TRUE) {
+        return BOOL(SendMessage(TB_ENABLEBUTTON, WPARAM(id), MAKELPARAM(enable, 0)));
+    }
+    BOOL CheckButton(int id, BOOL check = TRUE) {
+        return BOOL(SendMessage(TB_CHECKBUTTON, WPARAM(id), MAKELPARAM(check, 0)));
+    }
     BOOL IsButtonEnabled(int id) const { return BOOL(SendMessage(TB_ISBUTTONENABLED, WPARAM(id))); }
     BOOL IsButtonChecked(int id) const { return BOOL(SendMessage(TB_ISBUTTONCHECKED, WPARAM(id))); }
-    BOOL GetItemRect(int index, LPRECT rect) const { return BOOL(SendMessage(TB_GETITEMRECT, WPARAM(index), LPARAM(rect))); }
+    BOOL GetItemRect(int index, LPRECT rect) const {
+        return BOOL(SendMessage(TB_GETITEMRECT, WPARAM(index), LPARAM(rect)));
+    }
     void AutoSize() { SendMessage(TB_AUTOSIZE); }
 };

@@ -31,7 +31,9 @@ public:
     void SetCheck(int check) { SendMessage(BM_SETCHECK, WPARAM(check)); }
     UINT GetButtonStyle() const { return GetStyle() & 0xf; }
     void SetButtonStyle(UINT style, BOOL redraw = TRUE) { SendMessage(BM_SETSTYLE, style, redraw); }
-    HBITMAP SetBitmap(HBITMAP bitmap) { return HBITMAP(SendMessage(BM_SETIMAGE, IMAGE_BITMAP, LPARAM(bitmap))); }
+    HBITMAP SetBitmap(HBITMAP bitmap) {
+        return HBITMAP(SendMessage(BM_SETIMAGE, IMAGE_BITMAP, LPARAM(bitmap)));
+    }
     HICON SetIcon(HICON icon) { return HICON(SendMessage(BM_SETIMAGE, IMAGE_ICON, LPARAM(icon))); }
     void Click() { SendMessage(BM_CLICK); }
     virtual void DrawItem(LPDRAWITEMSTRUCT) {}
@@ -55,7 +57,9 @@ public:
     BOOL GetModify() const { return BOOL(SendMessage(EM_GETMODIFY)); }
     void SetModify(BOOL modified = TRUE) { SendMessage(EM_SETMODIFY, WPARAM(modified)); }
     int GetLineCount() const { return int(SendMessage(EM_GETLINECOUNT)); }
-    int GetLine(int index, LPTSTR buffer) const { return int(SendMessage(EM_GETLINE, WPARAM(index), LPARAM(buffer))); }
+    int GetLine(int index, LPTSTR buffer) const {
+        return int(SendMessage(EM_GETLINE, WPARAM(index), LPARAM(buffer)));
+    }
     int GetLine(int index, LPTSTR buffer, int maxLength) const;
     int LineFromChar(int index = -1) const { return int(SendMessage(EM_LINEFROMCHAR, WPARAM(index))); }
     int LineIndex(int line = -1) const { return int(SendMessage(EM_LINEINDEX, WPARAM(line))); }
@@ -68,7 +72,9 @@ public:
         SetSel(short(LOWORD(selection)), short(HIWORD(selection)), noScroll);
     }
     void SetSel(int start, int end, BOOL noScroll = FALSE);
-    void ReplaceSel(LPCTSTR text, BOOL canUndo = FALSE) { SendMessage(EM_REPLACESEL, WPARAM(canUndo), LPARAM(text)); }
+    void ReplaceSel(LPCTSTR text, BOOL canUndo = FALSE) {
+        SendMessage(EM_REPLACESEL, WPARAM(canUndo), LPARAM(text));
+    }
     void LimitText(int count = 0) { SendMessage(EM_LIMITTEXT, WPARAM(count)); }
     void SetLimitText(UINT count) { SendMessage(EM_SETLIMITTEXT, count); }
     UINT GetLimitText() const { return UINT(SendMessage(EM_GETLIMITTEXT)); }
@@ -82,7 +88,9 @@ public:
         SendMessage(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELONG(left, right));
     }
     DWORD GetMargins() const { return DWORD(SendMessage(EM_GETMARGINS)); }
-    BOOL SetTabStops(int count, LPINT stops) { return BOOL(SendMessage(EM_SETTABSTOPS, WPARAM(count), LPARAM(stops))); }
+    BOOL SetTabStops(int count, LPINT stops) {
+        return BOOL(SendMessage(EM_SETTABSTOPS, WPARAM(count), LPARAM(stops)));
+    }
     BOOL SetTabStops(const int &eachStop) { return SetTabStops(1, const_cast<LPINT>(&eachStop)); }
     int CharFromPos(POINT point) const {
         return int(SendMessage(EM_CHARFROMPOS, 0, MAKELPARAM(point.x, point.y)));
@@ -97,10 +105,14 @@ public:
     BOOL Create(DWORD style, const RECT &rect, CWnd *parent, UINT id);
     int GetCount() const { return int(SendMessage(LB_GETCOUNT)); }
     int AddString(LPCTSTR text) { return int(SendMessage(LB_ADDSTRING, 0, LPARAM(text))); }
-    int InsertString(int index, LPCTSTR text) { return int(SendMessage(LB_INSERTSTRING, WPARAM(index), LPARAM(text))); }
+    int InsertString(int index, LPCTSTR text) {
+        return int(SendMessage(LB_INSERTSTRING, WPARAM(index), LPARAM(text)));
+    }
     int DeleteString(UINT index) { return int(SendMessage(LB_DELETESTRING, index)); }
     void ResetContent() { SendMessage(LB_RESETCONTENT); }
-    int Dir(UINT attributes, LPCTSTR pattern) { return int(SendMessage(LB_DIR, attributes, LPARAM(pattern))); }
+    int Dir(UINT attributes, LPCTSTR pattern) {
+        return int(SendMessage(LB_DIR, attributes, LPARAM(pattern)));
+    }
     int FindString(int startAfter, LPCTSTR text) const {
         return int(SendMessage(LB_FINDSTRING, WPARAM(startAfter), LPARAM(text)));
     }
@@ -126,13 +138,19 @@ public:
     }
     int GetCaretIndex() const { return int(SendMessage(LB_GETCARETINDEX)); }
     DWORD_PTR GetItemData(int index) const { return DWORD_PTR(SendMessage(LB_GETITEMDATA, WPARAM(index))); }
-    int SetItemData(int index, DWORD_PTR data) { return int(SendMessage(LB_SETITEMDATA, WPARAM(index), LPARAM(data))); }
+    int SetItemData(int index, DWORD_PTR data) {
+        return int(SendMessage(LB_SETITEMDATA, WPARAM(index), LPARAM(data)));
+    }
     void *GetItemDataPtr(int index) const { return reinterpret_cast<void *>(GetItemData(index)); }
     int SetItemDataPtr(int index, void *data) { return SetItemData(index, DWORD_PTR(data)); }
     int GetTextLen(int index) const { return int(SendMessage(LB_GETTEXTLEN, WPARAM(index))); }
-    int GetText(int index, LPTSTR text) const { return int(SendMessage(LB_GETTEXT, WPARAM(index), LPARAM(text))); }
+    int GetText(int index, LPTSTR text) const {
+        return int(SendMessage(LB_GETTEXT, WPARAM(index), LPARAM(text)));
+    }
     void GetText(int index, CString &text) const;
-    int GetItemRect(int index, LPRECT rect) const { return int(SendMessage(LB_GETITEMRECT, WPARAM(index), LPARAM(rect))); }
+    int GetItemRect(int index, LPRECT rect) const {
+        return int(SendMessage(LB_GETITEMRECT, WPARAM(index), LPARAM(rect)));
+    }
     int GetTopIndex() const { return int(SendMessage(LB_GETTOPINDEX)); }
     int SetTopIndex(int index) { return int(SendMessage(LB_SETTOPINDEX, WPARAM(index))); }
     int GetItemHeight(int index) const { return int(SendMessage(LB_GETITEMHEIGHT, WPARAM(index))); }
@@ -142,7 +160,9 @@ public:
     void SetColumnWidth(int width) { SendMessage(LB_SETCOLUMNWIDTH, WPARAM(width)); }
     void SetHorizontalExtent(int extent) { SendMessage(LB_SETHORIZONTALEXTENT, WPARAM(extent)); }
     int GetHorizontalExtent() const { return int(SendMessage(LB_GETHORIZONTALEXTENT)); }
-    BOOL SetTabStops(int count, LPINT stops) { return BOOL(SendMessage(LB_SETTABSTOPS, WPARAM(count), LPARAM(stops))); }
+    BOOL SetTabStops(int count, LPINT stops) {
+        return BOOL(SendMessage(LB_SETTABSTOPS, WPARAM(count), LPARAM(stops)));
+    }
     BOOL SetTabStops(const int &eachStop) { return SetTabStops(1, const_cast<LPINT>(&eachStop)); }
     UINT ItemFromPoint(CPoint point, BOOL &outside) const;
 
@@ -208,10 +228,14 @@ public:
     BOOL Create(DWORD style, const RECT &rect, CWnd *parent, UINT id);
     int GetCount() const { return int(SendMessage(CB_GETCOUNT)); }
     int AddString(LPCTSTR text) { return int(SendMessage(CB_ADDSTRING, 0, LPARAM(text))); }
-    int InsertString(int index, LPCTSTR text) { return int(SendMessage(CB_INSERTSTRING, WPARAM(index), LPARAM(text))); }
+    int InsertString(int index, LPCTSTR text) {
+        return int(SendMessage(CB_INSERTSTRING, WPARAM(index), LPARAM(text)));
+    }
     int DeleteString(UINT index) { return int(SendMessage(CB_DELETESTRING, index)); }
     void ResetContent() { SendMessage(CB_RESETCONTENT); }
-    int Dir(UINT attributes, LPCTSTR pattern) { return int(SendMessage(CB_DIR, attributes, LPARAM(pattern))); }
+    int Dir(UINT attributes, LPCTSTR pattern) {
+        return int(SendMessage(CB_DIR, attributes, LPARAM(pattern)));
+    }
     int FindString(int startAfter, LPCTSTR text) const {
         return int(SendMessage(CB_FINDSTRING, WPARAM(startAfter), LPARAM(text)));
     }
@@ -227,14 +251,20 @@ public:
     BOOL SetEditSel(int start, int end) { return BOOL(SendMessage(CB_SETEDITSEL, 0, MAKELONG(start, end))); }
     BOOL LimitText(int count) { return BOOL(SendMessage(CB_LIMITTEXT, WPARAM(count))); }
     DWORD_PTR GetItemData(int index) const { return DWORD_PTR(SendMessage(CB_GETITEMDATA, WPARAM(index))); }
-    int SetItemData(int index, DWORD_PTR data) { return int(SendMessage(CB_SETITEMDATA, WPARAM(index), LPARAM(data))); }
+    int SetItemData(int index, DWORD_PTR data) {
+        return int(SendMessage(CB_SETITEMDATA, WPARAM(index), LPARAM(data)));
+    }
     void *GetItemDataPtr(int index) const { return reinterpret_cast<void *>(GetItemData(index)); }
     int SetItemDataPtr(int index, void *data) { return SetItemData(index, DWORD_PTR(data)); }
     int GetLBTextLen(int index) const { return int(SendMessage(CB_GETLBTEXTLEN, WPARAM(index))); }
-    int GetLBText(int index, LPTSTR text) const { return int(SendMessage(CB_GETLBTEXT, WPARAM(index), LPARAM(text))); }
+    int GetLBText(int index, LPTSTR text) const {
+        return int(SendMessage(CB_GETLBTEXT, WPARAM(index), LPARAM(text)));
+    }
     void GetLBText(int index, CString &text) const;
     int GetItemHeight(int index) const { return int(SendMessage(CB_GETITEMHEIGHT, WPARAM(index))); }
-    int SetItemHeight(int index, UINT height) { return int(SendMessage(CB_SETITEMHEIGHT, WPARAM(index), height)); }
+    int SetItemHeight(int index, UINT height) {
+        return int(SendMessage(CB_SETITEMHEIGHT, WPARAM(index), height));
+    }
     void ShowDropDown(BOOL show = TRUE) { SendMessage(CB_SHOWDROPDOWN, WPARAM(show)); }
     BOOL GetDroppedState() const { return BOOL(SendMessage(CB_GETDROPPEDSTATE)); }
     void GetDroppedControlRect(LPRECT rect) const { SendMessage(CB_GETDROPPEDCONTROLRECT, 0, LPARAM(rect)); }
@@ -263,14 +293,20 @@ public:
     using CWnd::Create;
     BOOL Create(DWORD style, const RECT &rect, CWnd *parent, UINT id);
     int GetScrollPos() const { return ::GetScrollPos(m_hWnd, SB_CTL); }
-    int SetScrollPos(int position, BOOL redraw = TRUE) { return ::SetScrollPos(m_hWnd, SB_CTL, position, redraw); }
+    int SetScrollPos(int position, BOOL redraw = TRUE) {
+        return ::SetScrollPos(m_hWnd, SB_CTL, position, redraw);
+    }
     void GetScrollRange(LPINT least, LPINT most) const { ::GetScrollRange(m_hWnd, SB_CTL, least, most); }
     void SetScrollRange(int least, int most, BOOL redraw = TRUE) {
         ::SetScrollRange(m_hWnd, SB_CTL, least, most, redraw);
     }
     void ShowScrollBar(BOOL show = TRUE) { ::ShowScrollBar(m_hWnd, SB_CTL, show); }
     BOOL EnableScrollBar(UINT arrows = ESB_ENABLE_BOTH) { return ::EnableScrollBar(m_hWnd, SB_CTL, arrows); }
-    BOOL SetScrollInfo(LPSCROLLINFO info, BOOL redraw = TRUE) { return CWnd::SetScrollInfo(SB_CTL, info, redraw); }
-    BOOL GetScrollInfo(LPSCROLLINFO info, UINT mask = SIF_ALL) { return CWnd::GetScrollInfo(SB_CTL, info, mask); }
+    BOOL SetScrollInfo(LPSCROLLINFO info, BOOL redraw = TRUE) {
+        return CWnd::SetScrollInfo(SB_CTL, info, redraw);
+    }
+    BOOL GetScrollInfo(LPSCROLLINFO info, UINT mask = SIF_ALL) {
+        return CWnd::GetScrollInfo(SB_CTL, info, mask);
+    }
     int GetScrollLimit() { return CWnd::GetScrollLimit(SB_CTL); }
 };

@@ -186,9 +186,12 @@ public:
     }
 
     // Text. Extents are in logical units.
-    virtual BOOL TextOut(int x, int y, LPCTSTR text, int count) { return ::TextOut(m_hDC, x, y, text, count); }
+    virtual BOOL TextOut(int x, int y, LPCTSTR text, int count) {
+        return ::TextOut(m_hDC, x, y, text, count);
+    }
     BOOL TextOut(int x, int y, const CString &text) { return TextOut(x, y, text, text.GetLength()); }
-    virtual BOOL ExtTextOut(int x, int y, UINT options, LPCRECT rect, LPCTSTR text, UINT count, LPINT widths) {
+    virtual BOOL ExtTextOut(int x, int y, UINT options, LPCRECT rect, LPCTSTR text, UINT count,
+                            LPINT widths) {
         return ::ExtTextOut(m_hDC, x, y, options, rect, text, count, widths);
     }
     BOOL ExtTextOut(int x, int y, UINT options, LPCRECT rect, const CString &text, LPINT widths) {
@@ -211,12 +214,14 @@ public:
     BOOL GetCharWidth(UINT first, UINT last, LPINT widths) const {
         return ::GetCharWidth32(m_hAttribDC, first, last, widths);
     }
-    BOOL GrayString(CBrush *brush, GRAYSTRINGPROC output, LPARAM data, int count, int x, int y, int cx, int cy) {
-        return ::GrayString(m_hDC, brush ? static_cast<HBRUSH>(*brush) : nullptr, output, data, count, x, y, cx,
-                            cy);
+    BOOL GrayString(CBrush *brush, GRAYSTRINGPROC output, LPARAM data, int count, int x, int y, int cx,
+                    int cy) {
+        return ::GrayString(m_hDC, brush ? static_cast<HBRUSH>(*brush) : nullptr, output, data, count, x, y,
+                            cx, cy);
     }
     BOOL ScrollDC(int dx, int dy, LPCRECT scroll, LPCRECT clip, CRgn *update, LPRECT updateRect) {
-        return ::ScrollDC(m_hDC, dx, dy, scroll, clip, update ? static_cast<HRGN>(*update) : nullptr, updateRect);
+        return ::ScrollDC(m_hDC, dx, dy, scroll, clip, update ? static_cast<HRGN>(*update) : nullptr,
+                          updateRect);
     }
     static CBrush *GetHalftoneBrush();
 

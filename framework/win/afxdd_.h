@@ -7,8 +7,8 @@
 class ORVANEFW_API CDataExchange {
 public:
     CDataExchange(CWnd *dialog, BOOL saveAndValidate)
-        : m_bSaveAndValidate(saveAndValidate), m_pDlgWnd(dialog), m_idLastControl(0), m_hWndLastControl(nullptr),
-          m_bEditLastControl(FALSE) {}
+        : m_bSaveAndValidate(saveAndValidate), m_pDlgWnd(dialog), m_idLastControl(0),
+          m_hWndLastControl(nullptr), m_bEditLastControl(FALSE) {}
 
     // The control, which is the one that Fail will put the focus on. CNotSupportedException without it.
     HWND PrepareCtrl(int id);
@@ -53,4 +53,5 @@ ORVANEFW_API void DDV_MinMaxLong(CDataExchange *dx, long value, long least, long
 ORVANEFW_API void DDV_MinMaxUInt(CDataExchange *dx, UINT value, UINT least, UINT most);
 ORVANEFW_API void DDV_MinMaxDWord(CDataExchange *dx, DWORD value, DWORD least, DWORD most);
 ORVANEFW_API void DDV_MinMaxFloat(CDataExchange *dx, float value, float least, float most, int precision = 6);
-ORVANEFW_API void DDV_MinMaxDouble(CDataExchange *dx, double value, double least, double most, int precision = 15);
+ORVANEFW_API void DDV_MinMaxDouble(CDataExchange *dx, double value, double least, double most,
+                                   int precision = 15);

@@ -14,8 +14,11 @@ public:
 
     // Modeless.
     virtual BOOL Create(LPCTSTR templateName, CWnd *parent = nullptr);
-    BOOL Create(UINT templateId, CWnd *parent = nullptr) { return Create(MAKEINTRESOURCE(templateId), parent); }
-    BOOL CreateIndirect(const DLGTEMPLATE *dialogTemplate, CWnd *parent = nullptr, HINSTANCE module = nullptr);
+    BOOL Create(UINT templateId, CWnd *parent = nullptr) {
+        return Create(MAKEINTRESOURCE(templateId), parent);
+    }
+    BOOL CreateIndirect(const DLGTEMPLATE *dialogTemplate, CWnd *parent = nullptr,
+                        HINSTANCE module = nullptr);
     BOOL InitModalIndirect(const DLGTEMPLATE *dialogTemplate, CWnd *parent = nullptr);
 
     // The argument of EndDialog; -1 when the dialog could not be made.

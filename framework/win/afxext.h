@@ -1,7 +1,7 @@
 // Control bars: what a frame places along its edges.
 //
-// Differences from MFC: bars do not float and are not docked by the mouse. There is no CToolBar; a host makes a
-// CToolBarCtrl. CSplitterWnd, CFormView and printing do not exist.
+// Differences from MFC: bars do not float and are not docked by the mouse. There is no CToolBar; a host makes
+// a CToolBarCtrl. CSplitterWnd, CFormView and printing do not exist.
 #pragma once
 
 #include <afxwin.h>
@@ -46,7 +46,8 @@ class ORVANEFW_API CStatusBar : public CControlBar {
 public:
     CStatusBar() {}
     using CWnd::Create;
-    BOOL Create(CWnd *parent, DWORD style = WS_CHILD | WS_VISIBLE | CBRS_BOTTOM, UINT id = AFX_IDW_STATUS_BAR);
+    BOOL Create(CWnd *parent, DWORD style = WS_CHILD | WS_VISIBLE | CBRS_BOTTOM,
+                UINT id = AFX_IDW_STATUS_BAR);
     // One pane for each identifier, whose string is its text and gives its width. The first one of
     // ID_SEPARATOR stretches and shows messages. With ids null the panes are empty.
     BOOL SetIndicators(const UINT *ids, int count);

@@ -30,8 +30,8 @@ public:
                 DWORD exStyle = 0, void *createParam = nullptr);
     using CWnd::Create;
     // Menu, accelerators, icon and title of one identifier.
-    virtual BOOL LoadFrame(UINT id, DWORD style = WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE, CWnd *parent = nullptr,
-                           void *createParam = nullptr);
+    virtual BOOL LoadFrame(UINT id, DWORD style = WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE,
+                           CWnd *parent = nullptr, void *createParam = nullptr);
     BOOL LoadAccelTable(LPCTSTR name);
     virtual HACCEL GetDefaultAccelerator() { return m_hAccelTable; }
 
@@ -51,8 +51,8 @@ public:
     void SetMessageText(UINT id);
     BOOL IsTracking() const { return m_nIDTracking != 0 && m_nIDTracking != kIdleMessage; }
 
-    // Disables the frame and all windows that it owns; the calls may nest. A frame that is disabled, as by a message
-    // box, does so by itself.
+    // Disables the frame and all windows that it owns; the calls may nest. A frame that is disabled, as by a
+    // message box, does so by itself.
     void BeginModalState() override;
     void EndModalState() override;
     BOOL InModalState() const { return m_cModalStack != 0; }
@@ -113,12 +113,16 @@ class ORVANEFW_API CMDIFrameWnd : public CFrameWnd {
 public:
     CMDIFrameWnd();
 
-    void MDIActivate(CWnd *child) { ::SendMessage(m_hWndMDIClient, WM_MDIACTIVATE, WPARAM(child->m_hWnd), 0); }
+    void MDIActivate(CWnd *child) {
+        ::SendMessage(m_hWndMDIClient, WM_MDIACTIVATE, WPARAM(child->m_hWnd), 0);
+    }
     void MDINext() { ::SendMessage(m_hWndMDIClient, WM_MDINEXT, 0, 0); }
     void MDIPrev() { ::SendMessage(m_hWndMDIClient, WM_MDINEXT, 0, 1); }
     CMDIChildWnd *MDIGetActive(BOOL *maximized = nullptr) const;
     void MDIIconArrange() { ::SendMessage(m_hWndMDIClient, WM_MDIICONARRANGE, 0, 0); }
-    void MDIMaximize(CWnd *child) { ::SendMessage(m_hWndMDIClient, WM_MDIMAXIMIZE, WPARAM(child->m_hWnd), 0); }
+    void MDIMaximize(CWnd *child) {
+        ::SendMessage(m_hWndMDIClient, WM_MDIMAXIMIZE, WPARAM(child->m_hWnd), 0);
+    }
     void MDIRestore(CWnd *child) { ::SendMessage(m_hWndMDIClient, WM_MDIRESTORE, WPARAM(child->m_hWnd), 0); }
     CMenu *MDISetMenu(CMenu *frameMenu, CMenu *windowMenu);
     void MDITile(int type = 0) { ::SendMessage(m_hWndMDIClient, WM_MDITILE, WPARAM(type), 0); }
@@ -154,8 +158,9 @@ public:
 
     // A null parent is the application's main frame.
     virtual BOOL Create(LPCTSTR className, LPCTSTR windowName,
-                        DWORD style = WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, const RECT &rect = rectDefault,
-                        CMDIFrameWnd *parent = nullptr, void *createParam = nullptr);
+                        DWORD style = WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW,
+                        const RECT &rect = rectDefault, CMDIFrameWnd *parent = nullptr,
+                        void *createParam = nullptr);
     BOOL LoadFrame(UINT id, DWORD style = WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE,
                    CWnd *parent = nullptr, void *createParam = nullptr) override;
     // The menu that the frame shows while this child is active; owned by the child.

@@ -49,7 +49,8 @@ public:
     operator HPEN() const { return static_cast<HPEN>(m_hObject); }
 
     BOOL CreatePen(int style, int width, COLORREF color) { return Attach(::CreatePen(style, width, color)); }
-    BOOL CreatePen(int style, int width, const LOGBRUSH *brush, int count = 0, const DWORD *lengths = nullptr) {
+    BOOL CreatePen(int style, int width, const LOGBRUSH *brush, int count = 0,
+                   const DWORD *lengths = nullptr) {
         return Attach(::ExtCreatePen(style, width, brush, count, lengths));
     }
     BOOL CreatePenIndirect(LPLOGPEN logPen) { return Attach(::CreatePenIndirect(logPen)); }
@@ -86,8 +87,9 @@ public:
     BOOL CreateFont(int height, int width, int escapement, int orientation, int weight, BYTE italic,
                     BYTE underline, BYTE strikeOut, BYTE charSet, BYTE outPrecision, BYTE clipPrecision,
                     BYTE quality, BYTE pitchAndFamily, LPCTSTR faceName) {
-        return Attach(::CreateFont(height, width, escapement, orientation, weight, italic, underline, strikeOut,
-                                   charSet, outPrecision, clipPrecision, quality, pitchAndFamily, faceName));
+        return Attach(::CreateFont(height, width, escapement, orientation, weight, italic, underline,
+                                   strikeOut, charSet, outPrecision, clipPrecision, quality, pitchAndFamily,
+                                   faceName));
     }
     // Tenths of a point, on the given device or the screen.
     BOOL CreatePointFont(int pointSize, LPCTSTR faceName, CDC *dc = nullptr);

@@ -44,7 +44,9 @@ public:
     BOOL CheckMenuRadioItem(UINT first, UINT last, UINT item, UINT flags) {
         return ::CheckMenuRadioItem(m_hMenu, first, last, item, flags);
     }
-    UINT EnableMenuItem(UINT id, UINT enable) { return static_cast<UINT>(::EnableMenuItem(m_hMenu, id, enable)); }
+    UINT EnableMenuItem(UINT id, UINT enable) {
+        return static_cast<UINT>(::EnableMenuItem(m_hMenu, id, enable));
+    }
     BOOL SetDefaultItem(UINT item, BOOL byPosition = FALSE) {
         return ::SetMenuDefaultItem(m_hMenu, item, byPosition);
     }

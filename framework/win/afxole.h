@@ -42,7 +42,8 @@ public:
     COleDropTarget();
     ~COleDropTarget() override;
 
-    // FALSE when the window has a target already or OLE is not initialised. Revoked with the window at the latest.
+    // FALSE when the window has a target already or OLE is not initialised. Revoked with the window at the
+    // latest.
     BOOL Register(CWnd *wnd);
     virtual void Revoke();
 
@@ -88,8 +89,8 @@ public:
     // The memory belongs to the source from now on.
     void CacheGlobalData(CLIPFORMAT format, HGLOBAL global, LPFORMATETC formatEtc = nullptr);
     void Empty();
-    // Returns when the drag is over. A start rectangle holds the drag back until the mouse has left it; a null
-    // rectangle begins at once, no rectangle begins after the system's smallest distance.
+    // Returns when the drag is over. A start rectangle holds the drag back until the mouse has left it; a
+    // null rectangle begins at once, no rectangle begins after the system's smallest distance.
     DROPEFFECT DoDragDrop(DWORD effects = DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK,
                           LPCRECT startDrag = nullptr, COleDropSource *source = nullptr);
     // Hands a source made with new over to the clipboard: the object must not be used any more.

@@ -19,10 +19,10 @@ constexpr UINT WM_KICKIDLE = 0x036A;         // in a modal loop; a nonzero answe
 constexpr UINT WM_POPMESSAGESTRING = 0x0375;
 
 // Flags of a modal loop.
-constexpr DWORD MLF_NOIDLEMSG = 1;    // no WM_ENTERIDLE to the parent
-constexpr DWORD MLF_NOKICKIDLE = 2;   // no WM_KICKIDLE to the window
-constexpr DWORD MLF_SHOWONIDLE = 4;   // the window is shown when the queue is empty
-constexpr DWORD WF_MODALLOOP = 0x10;  // of m_nFlags: in a loop
+constexpr DWORD MLF_NOIDLEMSG = 1;   // no WM_ENTERIDLE to the parent
+constexpr DWORD MLF_NOKICKIDLE = 2;  // no WM_KICKIDLE to the window
+constexpr DWORD MLF_SHOWONIDLE = 4;  // the window is shown when the queue is empty
+constexpr DWORD WF_MODALLOOP = 0x10; // of m_nFlags: in a loop
 constexpr DWORD WF_CONTINUEMODAL = 0x20;
 
 class ORVANEFW_API CWnd : public CCmdTarget {
@@ -45,8 +45,8 @@ public:
     BOOL Attach(HWND wnd);
     HWND Detach();
 
-    // Making and ending. PreCreateWindow may change everything or refuse; PreSubclassWindow is called when the
-    // handle is attached and before the first message.
+    // Making and ending. PreCreateWindow may change everything or refuse; PreSubclassWindow is called when
+    // the handle is attached and before the first message.
     virtual BOOL Create(LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT &rect, CWnd *parent,
                         UINT id, void *createParam = nullptr);
     BOOL CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT &rect,
@@ -194,13 +194,18 @@ public:
     void ScrollWindow(int dx, int dy, LPCRECT rect = nullptr, LPCRECT clip = nullptr) {
         ::ScrollWindow(m_hWnd, dx, dy, rect, clip);
     }
-    int ScrollWindowEx(int dx, int dy, LPCRECT scroll, LPCRECT clip, CRgn *update, LPRECT updateRect, UINT flags) {
+    int ScrollWindowEx(int dx, int dy, LPCRECT scroll, LPCRECT clip, CRgn *update, LPRECT updateRect,
+                       UINT flags) {
         return ::ScrollWindowEx(m_hWnd, dx, dy, scroll, clip, update ? static_cast<HRGN>(*update) : nullptr,
                                 updateRect, flags);
     }
     int GetScrollPos(int bar) const { return ::GetScrollPos(m_hWnd, bar); }
-    int SetScrollPos(int bar, int pos, BOOL redraw = TRUE) { return ::SetScrollPos(m_hWnd, bar, pos, redraw); }
-    void GetScrollRange(int bar, LPINT least, LPINT most) const { ::GetScrollRange(m_hWnd, bar, least, most); }
+    int SetScrollPos(int bar, int pos, BOOL redraw = TRUE) {
+        return ::SetScrollPos(m_hWnd, bar, pos, redraw);
+    }
+    void GetScrollRange(int bar, LPINT least, LPINT most) const {
+        ::GetScrollRange(m_hWnd, bar, least, most);
+    }
     void SetScrollRange(int bar, int least, int most, BOOL redraw = TRUE) {
         ::SetScrollRange(m_hWnd, bar, least, most, redraw);
     }
@@ -250,7 +255,9 @@ public:
 
     // Relatives.
     CWnd *GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
-    CWnd *SetParent(CWnd *parent) { return FromHandle(::SetParent(m_hWnd, parent ? parent->m_hWnd : nullptr)); }
+    CWnd *SetParent(CWnd *parent) {
+        return FromHandle(::SetParent(m_hWnd, parent ? parent->m_hWnd : nullptr));
+    }
     // The nearest parent, or owner of a popup, that is a frame.
     CFrameWnd *GetParentFrame() const;
     CFrameWnd *GetTopLevelFrame() const;
@@ -264,15 +271,21 @@ public:
     void SetOwner(CWnd *owner) { m_hWndOwner = owner ? owner->m_hWnd : nullptr; }
     CWnd *GetWindow(UINT command) const { return FromHandle(::GetWindow(m_hWnd, command)); }
     CWnd *GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
-    CWnd *GetNextWindow(UINT direction = GW_HWNDNEXT) const { return FromHandle(::GetWindow(m_hWnd, direction)); }
+    CWnd *GetNextWindow(UINT direction = GW_HWNDNEXT) const {
+        return FromHandle(::GetWindow(m_hWnd, direction));
+    }
     CWnd *GetLastActivePopup() const { return FromHandle(::GetLastActivePopup(m_hWnd)); }
     BOOL IsChild(const CWnd *wnd) const { return ::IsChild(m_hWnd, wnd->m_hWnd); }
-    CWnd *ChildWindowFromPoint(POINT point) const { return FromHandle(::ChildWindowFromPoint(m_hWnd, point)); }
+    CWnd *ChildWindowFromPoint(POINT point) const {
+        return FromHandle(::ChildWindowFromPoint(m_hWnd, point));
+    }
     CWnd *ChildWindowFromPoint(POINT point, UINT flags) const {
         return FromHandle(::ChildWindowFromPointEx(m_hWnd, point, flags));
     }
     static CWnd *WindowFromPoint(POINT point) { return FromHandle(::WindowFromPoint(point)); }
-    static CWnd *FindWindow(LPCTSTR className, LPCTSTR text) { return FromHandle(::FindWindow(className, text)); }
+    static CWnd *FindWindow(LPCTSTR className, LPCTSTR text) {
+        return FromHandle(::FindWindow(className, text));
+    }
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
     int SetDlgCtrlID(int id) { return static_cast<int>(::SetWindowLongPtr(m_hWnd, GWLP_ID, id)); }
     CWnd *GetDescendantWindow(int id, BOOL onlyPermanent = FALSE) const {
@@ -323,7 +336,8 @@ protected:
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT *result);
     virtual void DoDataExchange(CDataExchange *) {}
     virtual void PostNcDestroy() {}
-    // A notification that the parent hands back to the control that sent it. TRUE stops the parent's handling.
+    // A notification that the parent hands back to the control that sent it. TRUE stops the parent's
+    // handling.
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT *result);
     BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT *result);
     BOOL SendChildNotifyLastMsg(LRESULT *result = nullptr);
@@ -451,13 +465,13 @@ private:
 };
 
 ORVANEFW_API LRESULT CALLBACK AfxWndProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam);
-// The next window that this thread creates becomes the object's. AfxUnhookWindowCreate gives FALSE when none was
-// created since.
+// The next window that this thread creates becomes the object's. AfxUnhookWindowCreate gives FALSE when none
+// was created since.
 ORVANEFW_API void AfxHookWindowCreate(CWnd *wnd);
 ORVANEFW_API BOOL AfxUnhookWindowCreate();
 
 // Registers a class of these properties, or finds it; the name stays valid. Throws CResourceException.
-ORVANEFW_API LPCTSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor = nullptr, HBRUSH background = nullptr,
-                                         HICON icon = nullptr);
+ORVANEFW_API LPCTSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor = nullptr,
+                                         HBRUSH background = nullptr, HICON icon = nullptr);
 // RegisterClass, but succeeds when the class is there already.
 ORVANEFW_API BOOL AfxRegisterClass(WNDCLASS *windowClass);

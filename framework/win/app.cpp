@@ -97,8 +97,8 @@ BOOL AfxPumpMessage(MSG *current) {
     if (::GetMessage(current, nullptr, 0, 0) <= 0)
         return FALSE;
     CWinThread *thread = AfxGetThread();
-    const bool translated = thread ? thread->PreTranslateMessage(current)
-                                   : CWnd::WalkPreTranslateTree(nullptr, current);
+    const bool translated =
+        thread ? thread->PreTranslateMessage(current) : CWnd::WalkPreTranslateTree(nullptr, current);
     if (!translated) {
         ::TranslateMessage(current);
         ::DispatchMessage(current);

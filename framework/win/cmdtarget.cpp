@@ -66,9 +66,11 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void *pExtra, AFX_CMDHANDLERINFO 
     if (nCode != CN_UPDATE_COMMAND_UI && HIWORD(nCode) != 0)
         message = HIWORD(nCode);
     const UINT code = LOWORD(nCode);
-    for (const AFX_MSGMAP *map = GetMessageMap(); map; map = map->pfnGetBaseMap ? map->pfnGetBaseMap() : nullptr)
+    for (const AFX_MSGMAP *map = GetMessageMap(); map;
+         map = map->pfnGetBaseMap ? map->pfnGetBaseMap() : nullptr)
         for (const AFX_MSGMAP_ENTRY *entry = map->lpEntries; entry->nSig != AfxSig_end; entry++)
-            if (entry->nMessage == message && entry->nCode == code && nID >= entry->nID && nID <= entry->nLastID)
+            if (entry->nMessage == message && entry->nCode == code && nID >= entry->nID &&
+                nID <= entry->nLastID)
                 return DispatchCommand(this, nID, *entry, pExtra, pHandlerInfo);
     return FALSE;
 }

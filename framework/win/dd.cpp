@@ -132,8 +132,8 @@ void ExchangeListString(CDataExchange *dx, int id, CString &value, UINT select, 
         value.ReleaseBuffer();
         return;
     }
-    const LRESULT found = ::SendMessage(control, select, static_cast<WPARAM>(-1),
-                                        reinterpret_cast<LPARAM>(value.GetString()));
+    const LRESULT found =
+        ::SendMessage(control, select, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(value.GetString()));
     if (exact)
         ::SendMessage(control, LB_SETCURSEL, static_cast<WPARAM>(found), 0);
 }
@@ -144,8 +144,8 @@ void ExchangeComboString(CDataExchange *dx, int id, CString &value, UINT select,
         value = TextOf(control);
         return;
     }
-    const LRESULT found = ::SendMessage(control, select, static_cast<WPARAM>(-1),
-                                        reinterpret_cast<LPARAM>(value.GetString()));
+    const LRESULT found =
+        ::SendMessage(control, select, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(value.GetString()));
     if (exact)
         ::SendMessage(control, CB_SETCURSEL, static_cast<WPARAM>(found), 0);
     // A text that is in no list still belongs into the field.

@@ -214,7 +214,8 @@ BOOL CDialog::PreTranslateMessage(MSG *msg) {
     // A field of several lines would keep Escape to itself.
     if (msg->message == WM_KEYDOWN && (msg->wParam == VK_ESCAPE || msg->wParam == VK_CANCEL)) {
         char name[16];
-        const bool multiLine = ::GetClassName(msg->hwnd, name, sizeof name) > 0 && lstrcmpi(name, "EDIT") == 0 &&
+        const bool multiLine = ::GetClassName(msg->hwnd, name, sizeof name) > 0 &&
+                               lstrcmpi(name, "EDIT") == 0 &&
                                (::GetWindowLong(msg->hwnd, GWL_STYLE) & ES_MULTILINE);
         const HWND cancel = ::GetDlgItem(m_hWnd, IDCANCEL);
         if (multiLine && (!cancel || ::IsWindowEnabled(cancel))) {

@@ -67,7 +67,9 @@ bool CallVoid(UINT_PTR sig, const Handler &h) {
     case AfxSig_vwsp:
         h.Call<void, UINT, short, CPoint>(h.Lo(), static_cast<short>(h.Hi()), h.Point());
         return true;
-    case AfxSig_vwWb: h.Call<void, UINT, CWnd *, BOOL>(h.Lo(), h.WndL(), static_cast<BOOL>(h.Hi())); return true;
+    case AfxSig_vwWb:
+        h.Call<void, UINT, CWnd *, BOOL>(h.Lo(), h.WndL(), static_cast<BOOL>(h.Hi()));
+        return true;
     case AfxSig_vwwS: h.Call<void, UINT, UINT, CWnd *>(h.Lo(), h.Hi(), h.WndL()); return true;
     case AfxSig_vMwb: h.Call<void, CMenu *, UINT, BOOL>(h.Menu(), LOWORD(h.l), HIWORD(h.l)); return true;
     case AfxSig_vwwh:

@@ -19,8 +19,8 @@ template <class SHOW> BOOL CCommonDialog::ShowModal(SHOW show) {
     return chosen;
 }
 
-CFileDialog::CFileDialog(BOOL openFile, LPCTSTR defaultExtension, LPCTSTR fileName, DWORD flags, LPCTSTR filter,
-                         CWnd *parent)
+CFileDialog::CFileDialog(BOOL openFile, LPCTSTR defaultExtension, LPCTSTR fileName, DWORD flags,
+                         LPCTSTR filter, CWnd *parent)
     : CCommonDialog(parent), m_ofn{}, m_bOpenFileDialog(openFile), m_strFilter(filter), m_szFileName{} {
     // The system ends each part of the filter with a null, the whole with two.
     m_strFilter.Replace('|', '\0');
@@ -70,7 +70,8 @@ CString CFileDialog::GetFolderPath() const {
     return path.Left(std::max(path.ReverseFind('\\'), 0));
 }
 
-// A position is the address of the next name in the buffer, which begins with the folder when there are several.
+// A position is the address of the next name in the buffer, which begins with the folder when there are
+// several.
 POSITION CFileDialog::GetStartPosition() const {
     return *m_ofn.lpstrFile ? reinterpret_cast<POSITION>(m_ofn.lpstrFile) : nullptr;
 }

@@ -152,8 +152,8 @@ void CFrameWnd::RecalcLayout(BOOL) {
     // What the bars leave belongs to the contents.
     const CRect rest(layout.rect);
     if (pane)
-        ::SetWindowPos(pane, nullptr, rest.left, rest.top, std::max(rest.Width(), 0), std::max(rest.Height(), 0),
-                       SWP_NOZORDER | SWP_NOACTIVATE);
+        ::SetWindowPos(pane, nullptr, rest.left, rest.top, std::max(rest.Width(), 0),
+                       std::max(rest.Height(), 0), SWP_NOZORDER | SWP_NOACTIVATE);
     m_inLayout = FALSE;
 }
 
@@ -238,7 +238,8 @@ void CFrameWnd::OnInitMenuPopup(CMenu *menu, UINT, BOOL systemMenu) {
         const UINT count = menu->GetMenuItemCount();
         if (count < state.m_nIndexMax) {
             state.m_nIndex -= std::min(state.m_nIndexMax - count, state.m_nIndex);
-            while (state.m_nIndex < count && menu->GetMenuItemID(static_cast<int>(state.m_nIndex)) == state.m_nID)
+            while (state.m_nIndex < count &&
+                   menu->GetMenuItemID(static_cast<int>(state.m_nIndex)) == state.m_nID)
                 state.m_nIndex++;
         }
         state.m_nIndexMax = count;
@@ -328,7 +329,8 @@ void CFrameWnd::BeginModalState() {
     m_disabledCount = 0;
     const auto collect = [](HWND wnd, LPARAM self) -> BOOL {
         CFrameWnd *frame = reinterpret_cast<CFrameWnd *>(self);
-        if (::IsWindowEnabled(wnd) && FromHandlePermanent(wnd) && IsOwnedBy(wnd, frame->GetTopLevelParent()->m_hWnd))
+        if (::IsWindowEnabled(wnd) && FromHandlePermanent(wnd) &&
+            IsOwnedBy(wnd, frame->GetTopLevelParent()->m_hWnd))
             frame->m_disabled[frame->m_disabledCount++] = wnd;
         return frame->m_disabledCount < kMostModalWindows;
     };

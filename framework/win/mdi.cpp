@@ -38,10 +38,9 @@ BOOL CMDIFrameWnd::CreateClient(LPCREATESTRUCT cs, CMenu *windowMenu) {
     CLIENTCREATESTRUCT client{};
     client.hWindowMenu = windowMenu ? windowMenu->m_hMenu : nullptr;
     client.idFirstChild = AFX_IDM_FIRST_MDICHILD;
-    m_hWndMDIClient =
-        ::CreateWindowEx(WS_EX_CLIENTEDGE, "MDICLIENT", nullptr, style, 0, 0, 0, 0, m_hWnd,
-                         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(AFX_IDW_PANE_FIRST)),
-                         AfxGetInstanceHandle(), &client);
+    m_hWndMDIClient = ::CreateWindowEx(WS_EX_CLIENTEDGE, "MDICLIENT", nullptr, style, 0, 0, 0, 0, m_hWnd,
+                                       reinterpret_cast<HMENU>(static_cast<UINT_PTR>(AFX_IDW_PANE_FIRST)),
+                                       AfxGetInstanceHandle(), &client);
     return m_hWndMDIClient != nullptr;
 }
 
@@ -70,10 +69,9 @@ CMDIChildWnd *CMDIFrameWnd::MDIGetActive(BOOL *maximized) const {
 }
 
 CMenu *CMDIFrameWnd::MDISetMenu(CMenu *frameMenu, CMenu *windowMenu) {
-    return CMenu::FromHandle(reinterpret_cast<HMENU>(
-        ::SendMessage(m_hWndMDIClient, WM_MDISETMENU,
-                      reinterpret_cast<WPARAM>(frameMenu ? frameMenu->m_hMenu : nullptr),
-                      reinterpret_cast<LPARAM>(windowMenu ? windowMenu->m_hMenu : nullptr))));
+    return CMenu::FromHandle(reinterpret_cast<HMENU>(::SendMessage(
+        m_hWndMDIClient, WM_MDISETMENU, reinterpret_cast<WPARAM>(frameMenu ? frameMenu->m_hMenu : nullptr),
+        reinterpret_cast<LPARAM>(windowMenu ? windowMenu->m_hMenu : nullptr))));
 }
 
 CFrameWnd *CMDIFrameWnd::GetActiveFrame() {
@@ -167,18 +165,16 @@ BOOL CMDIChildWnd::Create(LPCTSTR className, LPCTSTR windowName, DWORD style, co
         return FALSE;
     }
     m_strTitle = cs.lpszName;
-    MDICREATESTRUCT mdi = {cs.lpszClass,
-                           cs.lpszName,
-                           cs.hInstance,
-                           cs.x,
-                           cs.y,
-                           cs.cx,
-                           cs.cy,
-                           static_cast<DWORD>(cs.style) & ~static_cast<DWORD>(WS_MAXIMIZE | WS_VISIBLE),
-                           reinterpret_cast<LPARAM>(cs.lpCreateParams)};
-    const bool visible = (cs.style & WS_VISIBLE) != 0;
-    if (visible)
-        mdi.style |= WS_VISIBLE;
+    MDICREATESTRUCT mdi{};
+    mdi.szClass = cs.lpszClass;
+    mdi.szTitle = cs.lpszName;
+    mdi.hOwner = cs.hInstance;
+    mdi.x = cs.x;
+    mdi.y = cs.y;
+    mdi.cx = cs.cx;
+    mdi.cy = cs.cy;
+    mdi.style = static_cast<DWORD>(cs.style);
+    mdi.lParam = reinterpret_cast<LPARAM>(cs.lpCreateParams);
     AfxHookWindowCreate(this);
     const HWND wnd = reinterpret_cast<HWND>(
         ::SendMessage(parent->m_hWndMDIClient, WM_MDICREATE, 0, reinterpret_cast<LPARAM>(&mdi)));

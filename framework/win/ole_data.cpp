@@ -90,8 +90,8 @@ HGLOBAL COleDataObject::GetGlobalData(CLIPFORMAT format, LPFORMATETC formatEtc) 
     return copy;
 }
 
-// The formats live in an object of their own, because a drop target or the clipboard may keep it longer than the
-// source.
+// The formats live in an object of their own, because a drop target or the clipboard may keep it longer than
+// the source.
 class COleDataSource::DataObject final : public IDataObject {
 public:
     void Add(CLIPFORMAT format, HGLOBAL global) {
@@ -118,7 +118,9 @@ public:
         AddRef();
         return S_OK;
     }
-    STDMETHODIMP_(ULONG) AddRef() override { return static_cast<ULONG>(::InterlockedIncrement(&m_references)); }
+    STDMETHODIMP_(ULONG) AddRef() override {
+        return static_cast<ULONG>(::InterlockedIncrement(&m_references));
+    }
     STDMETHODIMP_(ULONG) Release() override {
         const LONG left = ::InterlockedDecrement(&m_references);
         if (left == 0)
@@ -157,7 +159,9 @@ public:
         return DATA_S_SAMEFORMATETC;
     }
     STDMETHODIMP SetData(FORMATETC *, STGMEDIUM *, BOOL) override { return E_NOTIMPL; }
-    STDMETHODIMP DAdvise(FORMATETC *, DWORD, IAdviseSink *, DWORD *) override { return OLE_E_ADVISENOTSUPPORTED; }
+    STDMETHODIMP DAdvise(FORMATETC *, DWORD, IAdviseSink *, DWORD *) override {
+        return OLE_E_ADVISENOTSUPPORTED;
+    }
     STDMETHODIMP DUnadvise(DWORD) override { return OLE_E_ADVISENOTSUPPORTED; }
     STDMETHODIMP EnumDAdvise(IEnumSTATDATA **) override { return OLE_E_ADVISENOTSUPPORTED; }
 

@@ -39,7 +39,8 @@ namespace {
 // The bytes of a value of the type; false when there is none or it is of another type.
 bool ReadValue(HKEY key, LPCTSTR entry, DWORD wanted, std::vector<BYTE> &bytes) {
     DWORD type = 0, count = 0;
-    if (!key || ::RegQueryValueEx(key, entry, nullptr, &type, nullptr, &count) != ERROR_SUCCESS || type != wanted)
+    if (!key || ::RegQueryValueEx(key, entry, nullptr, &type, nullptr, &count) != ERROR_SUCCESS ||
+        type != wanted)
         return false;
     bytes.resize(count);
     return ::RegQueryValueEx(key, entry, nullptr, &type, bytes.data(), &count) == ERROR_SUCCESS;
@@ -151,7 +152,8 @@ void CWinApp::LoadStdProfileSettings(UINT maxRecentFiles) {
         return;
     delete m_pRecentFileList;
     m_pRecentFileList = nullptr;
-    m_pRecentFileList = new CRecentFileList(0, "Recent File List", "File%d", static_cast<int>(maxRecentFiles));
+    m_pRecentFileList =
+        new CRecentFileList(0, "Recent File List", "File%d", static_cast<int>(maxRecentFiles));
     m_pRecentFileList->ReadList();
 }
 
@@ -182,7 +184,8 @@ BOOL CWinApp::OnOpenRecentFile(UINT id) {
     return TRUE;
 }
 
-CRecentFileList::CRecentFileList(UINT start, LPCTSTR section, LPCTSTR entryFormat, int size, int maxDisplayLength)
+CRecentFileList::CRecentFileList(UINT start, LPCTSTR section, LPCTSTR entryFormat, int size,
+                                 int maxDisplayLength)
     : m_start(start), m_section(section), m_entryFormat(entryFormat), m_maxDisplayLength(maxDisplayLength) {
     m_names.SetSize(size);
 }
@@ -245,7 +248,8 @@ void CRecentFileList::UpdateMenu(CCmdUI *cmdUI) {
         name.Replace("&", "&&");
         CString item;
         item.Format("&%d %s", (i + 1 + static_cast<int>(m_start)) % 10, name);
-        menu->InsertMenu(cmdUI->m_nIndex++, MF_STRING | MF_BYPOSITION, cmdUI->m_nID + static_cast<UINT>(i), item);
+        menu->InsertMenu(cmdUI->m_nIndex++, MF_STRING | MF_BYPOSITION, cmdUI->m_nID + static_cast<UINT>(i),
+                         item);
     }
     // Back to the last item made: the caller goes on behind it.
     cmdUI->m_nIndex--;

@@ -85,7 +85,8 @@ BOOL CStatusBar::Create(CWnd *parent, DWORD style, UINT id) {
     m_dwStyle = style & (CBRS_LEFT | CBRS_TOP | CBRS_RIGHT | CBRS_BOTTOM);
     const DWORD plain = style & ~m_dwStyle;
     return CWnd::Create(STATUSCLASSNAME, nullptr,
-                        plain | CCS_NODIVIDER | CCS_NOPARENTALIGN | CCS_NOMOVEY | CCS_NORESIZE | SBARS_SIZEGRIP,
+                        plain | CCS_NODIVIDER | CCS_NOPARENTALIGN | CCS_NOMOVEY | CCS_NORESIZE |
+                            SBARS_SIZEGRIP,
                         CRect(0, 0, 0, 0), parent, id);
 }
 

@@ -12,8 +12,8 @@ struct ThreadState {
 
 ThreadState &AfxThreadState();
 void AfxDeleteTempObjects();
-// The window that a modal dialog or message box of the parent, or of the main window, belongs to. *disabledTop
-// gets the top-level window that had to be disabled, or null.
+// The window that a modal dialog or message box of the parent, or of the main window, belongs to.
+// *disabledTop gets the top-level window that had to be disabled, or null.
 HWND AfxSafeOwner(HWND parent, HWND *disabledTop);
 // Takes one message and handles it; FALSE on WM_QUIT. *current gets the message.
 BOOL AfxPumpMessage(MSG *current);

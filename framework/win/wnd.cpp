@@ -59,8 +59,8 @@ LRESULT CALLBACK CreateHook(int code, WPARAM wParam, LPARAM lParam) {
     const HWND created = reinterpret_cast<HWND>(wParam);
     if (code != HCBT_CREATEWND || !wnd || IsImeWindow(created))
         return ::CallNextHookEx(state.createHook, code, wParam, lParam);
-    // When this fails, refusing the window is the only way out: the system would not survive the exception. The
-    // object stays noted, so that its maker learns that it has no window.
+    // When this fails, refusing the window is the only way out: the system would not survive the exception.
+    // The object stays noted, so that its maker learns that it has no window.
     bool attached = false;
     try {
         // Windows that PreSubclassWindow makes are its own affair.
@@ -93,8 +93,8 @@ void AfxDeleteTempObjects() {
     CWnd::DeleteTempMap();
 }
 
-// Friend of CWnd, hence not in the unnamed namespace. The one place where exceptions end: none may pass through
-// the system's own frames.
+// Friend of CWnd, hence not in the unnamed namespace. The one place where exceptions end: none may pass
+// through the system's own frames.
 LRESULT AfxCallWndProc(CWnd *wnd, HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
     ThreadState &state = AfxThreadState();
     const MSG outer = state.lastSentMessage;
@@ -150,7 +150,8 @@ BOOL AfxUnhookWindowCreate() {
 }
 
 CWnd::CWnd()
-    : m_hWnd(nullptr), m_pDropTarget(nullptr), m_nFlags(0), m_nModalResult(0), m_hWndOwner(nullptr), m_pfnSuper(nullptr) {}
+    : m_hWnd(nullptr), m_pDropTarget(nullptr), m_nFlags(0), m_nModalResult(0), m_hWndOwner(nullptr),
+      m_pfnSuper(nullptr) {}
 
 CWnd::~CWnd() {
     // The derived parts are gone already, so the last messages find only what CWnd itself does.
@@ -203,8 +204,8 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR windowName, DWORD 
                     reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), createParam);
 }
 
-BOOL CWnd::CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR windowName, DWORD style, int x, int y, int width,
-                    int height, HWND parent, HMENU idOrMenu, void *createParam) {
+BOOL CWnd::CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR windowName, DWORD style, int x, int y,
+                    int width, int height, HWND parent, HMENU idOrMenu, void *createParam) {
     CREATESTRUCT cs{};
     cs.dwExStyle = exStyle;
     cs.lpszClass = className;
@@ -321,8 +322,8 @@ LPCTSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor, HBRUSH background, 
     static auto &names = *new std::set<CString>;
     const HINSTANCE instance = AfxGetInstanceHandle();
     CString name;
-    name.Format("Orvane:%p:%x:%p:%p:%p", static_cast<void *>(instance), classStyle, static_cast<void *>(cursor),
-                static_cast<void *>(background), static_cast<void *>(icon));
+    name.Format("Orvane:%p:%x:%p:%p:%p", static_cast<void *>(instance), classStyle,
+                static_cast<void *>(cursor), static_cast<void *>(background), static_cast<void *>(icon));
     WNDCLASS windowClass{};
     windowClass.style = classStyle;
     windowClass.lpfnWndProc = ::DefWindowProc;

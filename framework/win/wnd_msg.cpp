@@ -91,7 +91,8 @@ BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT *result) {
     if (ReflectLastMsg(header->hwndFrom, result))
         return TRUE;
     AFX_NOTIFY notify = {result, header};
-    return OnCmdMsg(id, static_cast<int>(MAKELONG(static_cast<WORD>(header->code), WM_NOTIFY)), &notify, nullptr);
+    return OnCmdMsg(id, static_cast<int>(MAKELONG(static_cast<WORD>(header->code), WM_NOTIFY)), &notify,
+                    nullptr);
 }
 
 BOOL CWnd::ReflectLastMsg(HWND child, LRESULT *result) {
@@ -119,8 +120,8 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
         NMHDR *header = reinterpret_cast<NMHDR *>(lParam);
         AFX_NOTIFY notify = {target, header};
         return OnCmdMsg(
-            0, static_cast<int>(MAKELONG(static_cast<WORD>(header->code), WM_NOTIFY + WM_REFLECT_BASE)), &notify,
-            nullptr);
+            0, static_cast<int>(MAKELONG(static_cast<WORD>(header->code), WM_NOTIFY + WM_REFLECT_BASE)),
+            &notify, nullptr);
     }
     case WM_CTLCOLORBTN:
     case WM_CTLCOLORDLG:
@@ -130,7 +131,8 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     case WM_CTLCOLORSCROLLBAR:
     case WM_CTLCOLORSTATIC: {
         AFX_CTLCOLOR color = {m_hWnd, reinterpret_cast<HDC>(wParam), message - WM_CTLCOLORMSGBOX};
-        return OnWndMsg(WM_REFLECT_BASE + WM_CTLCOLOR, 0, reinterpret_cast<LPARAM>(&color), target) && *target;
+        return OnWndMsg(WM_REFLECT_BASE + WM_CTLCOLOR, 0, reinterpret_cast<LPARAM>(&color), target) &&
+               *target;
     }
     case WM_HSCROLL:
     case WM_VSCROLL:
@@ -140,8 +142,7 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     case WM_DELETEITEM:
     case WM_COMPAREITEM:
     case WM_VKEYTOITEM:
-    case WM_CHARTOITEM:
-        return OnWndMsg(WM_REFLECT_BASE + message, wParam, lParam, target);
+    case WM_CHARTOITEM: return OnWndMsg(WM_REFLECT_BASE + message, wParam, lParam, target);
     default: return FALSE;
     }
 }

@@ -97,7 +97,8 @@ TEST_F(Frame, OpeningAMenuUpdatesItsItems) {
 }
 
 TEST_F(Frame, StatusBarShowsPromptsAndPanes) {
-    frame->SendMessage(WM_MENUSELECT, MAKEWPARAM(ID_TEST_ONE, 0), reinterpret_cast<LPARAM>(frame->GetMenu()->m_hMenu));
+    frame->SendMessage(WM_MENUSELECT, MAKEWPARAM(ID_TEST_ONE, 0),
+                       reinterpret_cast<LPARAM>(frame->GetMenu()->m_hMenu));
     EXPECT_STREQ(frame->bar.GetPaneText(0), "Does the first thing");
     frame->SendMessage(WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
     EXPECT_STREQ(frame->bar.GetPaneText(0), "Ready");

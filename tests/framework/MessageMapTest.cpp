@@ -59,9 +59,12 @@ private:
         return TRUE;
     }
     afx_msg void OnContextMenu(CWnd *wnd, CPoint p) {
-        last.Format("context %s %d,%d", wnd == this ? "self" : "other", static_cast<int>(p.x), static_cast<int>(p.y));
+        last.Format("context %s %d,%d", wnd == this ? "self" : "other", static_cast<int>(p.x),
+                    static_cast<int>(p.y));
     }
-    afx_msg void OnActivate(UINT state, CWnd *, BOOL minimized) { last.Format("activate %u %d", state, minimized); }
+    afx_msg void OnActivate(UINT state, CWnd *, BOOL minimized) {
+        last.Format("activate %u %d", state, minimized);
+    }
     afx_msg void OnShowWindow(BOOL show, UINT status) { last.Format("show %d %u", show, status); }
     afx_msg void OnCaptureChanged(CWnd *wnd) { last.Format("capture %s", wnd == this ? "self" : "other"); }
     afx_msg LRESULT OnNcHitTest(CPoint p) { return p.x + p.y; }

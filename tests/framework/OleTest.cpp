@@ -37,7 +37,8 @@ public:
         if (fail)
             AfxThrowMemoryException();
         CString where;
-        where.Format("drop:%u@%d,%d:", static_cast<UINT>(effect), static_cast<int>(point.x), static_cast<int>(point.y));
+        where.Format("drop:%u@%d,%d:", static_cast<UINT>(effect), static_cast<int>(point.x),
+                     static_cast<int>(point.y));
         log += where.GetString() + TextOf(data->GetGlobalData(CF_TEXT));
         return TRUE;
     }
@@ -66,9 +67,8 @@ protected:
         ShortSource source;
         data.CacheGlobalData(CF_TEXT, Global("dragged"));
         // The system asks when something moves.
-        const UINT_PTR timer = ::SetTimer(nullptr, 0, 5, [](HWND, UINT, UINT_PTR, DWORD) {
-            ::mouse_event(MOUSEEVENTF_MOVE, 0, 0, 0, 0);
-        });
+        const UINT_PTR timer = ::SetTimer(
+            nullptr, 0, 5, [](HWND, UINT, UINT_PTR, DWORD) { ::mouse_event(MOUSEEVENTF_MOVE, 0, 0, 0, 0); });
         const CRect atOnce;
         const DROPEFFECT effect = data.DoDragDrop(allowed, &atOnce, &source);
         ::KillTimer(nullptr, timer);

@@ -5,9 +5,7 @@ namespace {
 class Profile : public testing::Test {
 protected:
     void SetUp() override { app.SetRegistryKey("OrvaneFrameworkTest"); }
-    void TearDown() override {
-        ::RegDeleteTree(HKEY_CURRENT_USER, "Software\\OrvaneFrameworkTest");
-    }
+    void TearDown() override { ::RegDeleteTree(HKEY_CURRENT_USER, "Software\\OrvaneFrameworkTest"); }
     TestApp &app = TestApp::Get();
 };
 
