@@ -33,6 +33,12 @@ CUGCtrl::CUGCtrl() {
     m_mem.SetSortEvaluator(EvaluateThroughControl);
     AddDataSource(&m_mem);
     m_builtInTypes.push_back(std::make_unique<CUGCellType>(0));
+    m_builtInTypes.push_back(std::make_unique<CUGCheckBoxType>());
+    m_builtInTypes.push_back(std::make_unique<CUGDropListType>());
+    m_builtInTypes.push_back(std::make_unique<CUGArrowType>());
+    m_builtInTypes.push_back(std::make_unique<CUGAutoFontType>());
+    m_builtInTypes.push_back(std::make_unique<CUGProgressType>());
+    m_builtInTypes.push_back(std::make_unique<CUGSpinButtonType>());
     for (const auto &type : m_builtInTypes)
         AddCellType(type.get());
     m_grid.m_ctrl = m_topHdg.m_ctrl = m_sideHdg.m_ctrl = m_cornerBtn.m_ctrl = this;

@@ -11,15 +11,19 @@
 #include <afxwin.h>
 
 #include "grid/UGCellType.h"
+#include "grid/UGCheckBoxType.h"
 #include "grid/UGCnrBtn.h"
 #include "grid/UGDefine.h"
+#include "grid/UGDropListType.h"
 #include "grid/UGEdit.h"
 #include "grid/UGGrid.h"
 #include "grid/UGGridInfo.h"
 #include "grid/UGHint.h"
 #include "grid/UGMem.h"
 #include "grid/UGScroll.h"
+#include "grid/UGShownTypes.h"
 #include "grid/UGSideHdg.h"
+#include "grid/UGSpinButtonType.h"
 #include "grid/UGTopHdg.h"
 
 #include <memory>
@@ -270,6 +274,7 @@ private:
     friend class CUGVScroll;
     friend class CUGHScroll;
     friend class CUGEdit;
+    friend class CUGLstBox;
 
     void ReadSystemColours();
     bool CreateChildren();

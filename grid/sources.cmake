@@ -15,6 +15,13 @@ set(GRID_MODEL_SOURCES
 
 # The windows and what draws.
 set(GRID_WINDOW_SOURCES
+    UGButtonType.cpp
+    UGCheckBoxType.cpp
+    UGDropListType.cpp
+    UGEllipsisType.cpp
+    UGLstBox.cpp
+    UGShownTypes.cpp
+    UGSpinButtonType.cpp
     UGCellType.cpp
     UGCell_Gdi.cpp
     UGCnrBtn.cpp

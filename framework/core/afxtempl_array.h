@@ -104,16 +104,14 @@ template <class TYPE, class ARG_TYPE> void CArray<TYPE, ARG_TYPE>::Reserve(int s
 template <class TYPE, class ARG_TYPE> void CArray<TYPE, ARG_TYPE>::SetSize(int newSize, int growBy) {
     if (newSize < 0)
         AfxThrowInvalidArgException();
+    if (growBy >= 0)
+        m_growBy = growBy;
     if (newSize > m_size) {
-        if (growBy >= 0)
-            std::swap(m_growBy, growBy);
         Reserve(newSize);
         std::uninitialized_value_construct_n(m_data + m_size, newSize - m_size);
         m_size = newSize;
         return;
     }
-    if (growBy >= 0)
-        m_growBy = growBy;
     std::destroy_n(m_data + newSize, m_size - newSize);
     m_size = newSize;
     if (newSize == 0)

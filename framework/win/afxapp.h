@@ -170,5 +170,5 @@ ORVANEFW_API void AfxFormatString2(CString &result, UINT id, LPCTSTR first, LPCT
 ORVANEFW_API void AfxPostQuitMessage(int exitCode);
 ORVANEFW_API void AfxBeginWaitCursor();
 ORVANEFW_API void AfxEndWaitCursor();
-// Pumps a frame's pending commands: the message routine of one loop that has to wait itself.
+// Takes and handles one message, waiting for it; FALSE on WM_QUIT. For loops that have to wait themselves.
 ORVANEFW_API BOOL AfxPumpMessage();

@@ -52,6 +52,8 @@ protected:
     CWnd *m_pParentWnd; // of DoModal
 
 private:
+    BOOL m_centre; // the template does not say where
+
     HWND ModalParent(HWND *disabledTop);
     BOOL CreateFromTemplate(const DLGTEMPLATE *dialogTemplate, HWND parent, HINSTANCE module);
     void RunModal(const DLGTEMPLATE *dialogTemplate, HWND parent, HINSTANCE module);

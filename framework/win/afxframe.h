@@ -43,6 +43,7 @@ public:
     virtual void ActivateFrame(int command = -1);
     CString GetTitle() const { return m_strTitle; }
     void SetTitle(LPCTSTR title) { m_strTitle = title; }
+    // Writes the title into the caption; the system adds a maximised child's.
     virtual void OnUpdateFrameTitle(BOOL addToTitle);
     virtual void GetMessageString(UINT id, CString &text) const;
     virtual CWnd *GetMessageBar();
@@ -50,7 +51,8 @@ public:
     void SetMessageText(UINT id);
     BOOL IsTracking() const { return m_nIDTracking != 0 && m_nIDTracking != kIdleMessage; }
 
-    // Disables all other windows of the thread; the calls may nest.
+    // Disables the frame and all windows that it owns; the calls may nest. A frame that is disabled, as by a message
+    // box, does so by itself.
     void BeginModalState() override;
     void EndModalState() override;
     BOOL InModalState() const { return m_cModalStack != 0; }
@@ -76,11 +78,11 @@ protected:
     void OnSize(UINT type, int cx, int cy);
     void OnSetFocus(CWnd *old);
     void OnActivate(UINT state, CWnd *other, BOOL minimized);
+    void OnEnable(BOOL enable);
     void OnInitMenuPopup(CMenu *menu, UINT index, BOOL systemMenu);
     void OnMenuSelect(UINT item, UINT flags, HMENU menu);
     LRESULT OnSetMessageString(WPARAM id, LPARAM text);
     LRESULT OnPopMessageString(WPARAM id, LPARAM text);
-    LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
     BOOL OnBarCheck(UINT id);
     void OnUpdateControlBarMenu(CCmdUI *cmdUI);
     void OnUpdateKeyIndicator(CCmdUI *cmdUI);
@@ -100,6 +102,8 @@ protected:
 private:
     int m_cModalStack;
     CPtrArray m_disabled; // the windows that BeginModalState disabled
+    int m_disabledCount;
+    BOOL m_disabledByOwner; // not by a call of BeginModalState
     BOOL m_inLayout;
 };
 

@@ -255,7 +255,9 @@ public:
     CFrameWnd *GetParentFrame() const;
     CFrameWnd *GetTopLevelFrame() const;
     CWnd *GetTopLevelParent() const;
+    // The last in the chain of owners; a child window has no owner and is itself the last.
     CWnd *GetTopLevelOwner() const;
+    // The first window in the chain of parents that is no child.
     CWnd *GetParentOwner() const;
     // The window that gets notifications: the one of SetOwner, else the parent.
     CWnd *GetOwner() const { return m_hWndOwner ? FromHandle(m_hWndOwner) : GetParent(); }

@@ -106,11 +106,18 @@ BOOL AfxPumpMessage(MSG *current) {
     return TRUE;
 }
 
+BOOL AfxPumpThread(MSG *current) {
+    CWinThread *thread = AfxGetThread();
+    if (!thread)
+        return AfxPumpMessage(current);
+    const BOOL going = thread->PumpMessage();
+    *current = thread->m_msgCur;
+    return going;
+}
+
 BOOL AfxPumpMessage() {
-    if (CWinThread *thread = AfxGetThread())
-        return thread->PumpMessage();
     MSG message;
-    return AfxPumpMessage(&message);
+    return AfxPumpThread(&message);
 }
 
 BOOL AfxIsIdleMessage(MSG *message) {
@@ -195,7 +202,7 @@ void CWinApp::DoWaitCursor(int code) {
         const HCURSOR old = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
         if (code > 0 && m_waitCursorCount == 1)
             m_waitCursorRestore = old;
-    } else {
+    } else if (code < 0 && m_waitCursorRestore) {
         ::SetCursor(m_waitCursorRestore);
     }
 }

@@ -18,6 +18,33 @@ INT_PTR CALLBACK DialogProc(HWND, UINT, WPARAM, LPARAM) {
     return FALSE;
 }
 
+// The head of an extended template, which the system's headers do not declare.
+#pragma pack(push, 1)
+struct ExtendedTemplate {
+    WORD version;
+    WORD signature; // 0xFFFF
+    DWORD helpId;
+    DWORD exStyle;
+    DWORD style;
+    WORD itemCount;
+    short x;
+    short y;
+};
+#pragma pack(pop)
+
+// Whether the template leaves the place open: at the origin, and without a style that says where.
+bool WantsCentring(const DLGTEMPLATE *dialogTemplate) {
+    ExtendedTemplate extended;
+    DLGTEMPLATE plain;
+    std::memcpy(&extended, dialogTemplate, sizeof extended);
+    std::memcpy(&plain, dialogTemplate, sizeof plain);
+    const bool isExtended = extended.signature == 0xFFFF;
+    const DWORD style = isExtended ? extended.style : plain.style;
+    const int x = isExtended ? extended.x : plain.x;
+    const int y = isExtended ? extended.y : plain.y;
+    return x == 0 && y == 0 && !(style & (DS_CENTER | DS_CENTERMOUSE | DS_ABSALIGN | WS_CHILD | WS_VISIBLE));
+}
+
 const DLGTEMPLATE *LoadTemplate(HINSTANCE module, LPCTSTR name) {
     const HRSRC resource = ::FindResource(module, name, RT_DIALOG);
     const HGLOBAL memory = resource ? ::LoadResource(module, resource) : nullptr;
@@ -27,7 +54,8 @@ const DLGTEMPLATE *LoadTemplate(HINSTANCE module, LPCTSTR name) {
 } // namespace
 
 CDialog::CDialog()
-    : m_nIDHelp(0), m_lpszTemplateName(nullptr), m_lpDialogTemplate(nullptr), m_pParentWnd(nullptr) {}
+    : m_nIDHelp(0), m_lpszTemplateName(nullptr), m_lpDialogTemplate(nullptr), m_pParentWnd(nullptr),
+      m_centre(FALSE) {}
 
 CDialog::CDialog(LPCTSTR templateName, CWnd *parent) : CDialog() {
     m_lpszTemplateName = templateName;
@@ -67,6 +95,7 @@ BOOL CDialog::CreateFromTemplate(const DLGTEMPLATE *dialogTemplate, HWND parent,
         return FALSE;
     // Templates name the common controls by class.
     ::InitCommonControls();
+    m_centre = WantsCentring(dialogTemplate);
     AfxHookWindowCreate(this);
     const HWND wnd = ::CreateDialogIndirect(module, dialogTemplate, parent, DialogProc);
     // A dialog that was destroyed while it was initialised has been through PostNcDestroy.
@@ -105,11 +134,13 @@ INT_PTR CDialog::DoModal() {
     const bool disable = parent && parent != ::GetDesktopWindow() && ::IsWindowEnabled(parent);
     if (disable)
         ::EnableWindow(parent, FALSE);
-    CWnd *frame = AfxGetMainWnd();
-    const bool frameState = frame && ::IsWindow(frame->m_hWnd) && frame->IsKindOf(RUNTIME_CLASS(CFrameWnd)) &&
-                            frame->IsWindowEnabled();
-    if (frameState)
-        frame->BeginModalState();
+    // The main frame is disabled even for the dialog of a window that it does not own.
+    CWnd *main = AfxGetMainWnd();
+    const HWND frame = disable && main && main->IsKindOf(RUNTIME_CLASS(CFrameWnd)) && main->IsWindowEnabled()
+                           ? main->m_hWnd
+                           : nullptr;
+    if (frame)
+        ::EnableWindow(frame, FALSE);
     m_nModalResult = -1;
     m_nFlags |= WF_CONTINUEMODAL;
     try {
@@ -119,8 +150,8 @@ INT_PTR CDialog::DoModal() {
         m_nModalResult = -1;
     }
     m_nFlags &= ~WF_CONTINUEMODAL;
-    if (frameState && ::IsWindow(frame->m_hWnd))
-        frame->EndModalState();
+    if (frame)
+        ::EnableWindow(frame, TRUE);
     if (disable)
         ::EnableWindow(parent, TRUE);
     if (disabledTop)
@@ -159,13 +190,11 @@ LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
     // A handler that moved or showed the dialog itself has its way; otherwise it is centred on its owner.
     CRect before, after;
     GetWindowRect(&before);
-    const DWORD style = GetStyle();
     const BOOL setFocus = OnInitDialog();
     if (!m_hWnd)
         return setFocus;
     GetWindowRect(&after);
-    const bool fixed = (style & (WS_VISIBLE | WS_CHILD | DS_ABSALIGN)) != 0;
-    if (!fixed && !(GetStyle() & WS_VISIBLE) && before.TopLeft() == after.TopLeft() && (m_nFlags & WF_CONTINUEMODAL))
+    if (m_centre && !(GetStyle() & WS_VISIBLE) && before == after)
         CenterWindow();
     return setFocus;
 }
@@ -182,7 +211,7 @@ HBRUSH CDialog::OnCtlColor(CDC *dc, CWnd *control, UINT type) {
 BOOL CDialog::PreTranslateMessage(MSG *msg) {
     if (CWnd::PreTranslateMessage(msg))
         return TRUE;
-    // In a field with a caption but no Cancel button, Escape would close nothing and only beep.
+    // A field of several lines would keep Escape to itself.
     if (msg->message == WM_KEYDOWN && (msg->wParam == VK_ESCAPE || msg->wParam == VK_CANCEL)) {
         char name[16];
         const bool multiLine = ::GetClassName(msg->hwnd, name, sizeof name) > 0 && lstrcmpi(name, "EDIT") == 0 &&

@@ -9,11 +9,11 @@ ON_WM_CLOSE()
 ON_WM_SIZE()
 ON_WM_SETFOCUS()
 ON_WM_ACTIVATE()
+ON_WM_ENABLE()
 ON_WM_INITMENUPOPUP()
 ON_WM_MENUSELECT()
 ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
 ON_MESSAGE(WM_POPMESSAGESTRING, &CFrameWnd::OnPopMessageString)
-ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWnd::OnIdleUpdateCmdUI)
 ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &CFrameWnd::OnBarCheck)
 ON_COMMAND_EX(ID_VIEW_TOOLBAR, &CFrameWnd::OnBarCheck)
 ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, &CFrameWnd::OnUpdateControlBarMenu)
@@ -32,12 +32,21 @@ int Extent(LONG from, LONG to) {
     return static_cast<int>(static_cast<DWORD>(to) - static_cast<DWORD>(from));
 }
 
+bool IsOwnedBy(HWND wnd, HWND owner) {
+    while (wnd && wnd != owner)
+        wnd = ::GetWindow(wnd, GW_OWNER);
+    return wnd == owner;
+}
+
+// More top-level windows than one frame will ever own.
+constexpr int kMostModalWindows = 256;
+
 } // namespace
 
 CFrameWnd::CFrameWnd()
     : m_bAutoMenuEnable(TRUE), m_hAccelTable(nullptr), m_pViewActive(nullptr), m_nIDHelp(0),
       m_nIDTracking(kIdleMessage), m_nIDLastMessage(0), m_hMenuDefault(nullptr), m_cModalStack(0),
-      m_inLayout(FALSE) {}
+      m_disabledCount(0), m_disabledByOwner(FALSE), m_inLayout(FALSE) {}
 
 CFrameWnd::~CFrameWnd() {}
 
@@ -286,11 +295,6 @@ LRESULT CFrameWnd::OnPopMessageString(WPARAM id, LPARAM text) {
     return SendMessage(WM_SETMESSAGESTRING, id, text);
 }
 
-LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM, LPARAM) {
-    OnUpdateFrameTitle(TRUE);
-    return 0;
-}
-
 BOOL CFrameWnd::OnBarCheck(UINT id) {
     const HWND bar = ::GetDlgItem(m_hWnd, static_cast<int>(id));
     if (!bar)
@@ -319,14 +323,33 @@ void CFrameWnd::BeginModalState() {
     if (m_cModalStack++ > 0)
         return;
     m_disabled.RemoveAll();
-    const auto disable = [](HWND wnd, LPARAM frame) -> BOOL {
-        if (::IsWindowVisible(wnd) && ::IsWindowEnabled(wnd)) {
-            ::EnableWindow(wnd, FALSE);
-            reinterpret_cast<CFrameWnd *>(frame)->m_disabled.Add(wnd);
-        }
-        return TRUE;
+    // Collected first and in a block made beforehand: nothing may be thrown through the system's enumeration.
+    m_disabled.SetSize(kMostModalWindows);
+    m_disabledCount = 0;
+    const auto collect = [](HWND wnd, LPARAM self) -> BOOL {
+        CFrameWnd *frame = reinterpret_cast<CFrameWnd *>(self);
+        if (::IsWindowEnabled(wnd) && FromHandlePermanent(wnd) && IsOwnedBy(wnd, frame->GetTopLevelParent()->m_hWnd))
+            frame->m_disabled[frame->m_disabledCount++] = wnd;
+        return frame->m_disabledCount < kMostModalWindows;
     };
-    ::EnumThreadWindows(::GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(this));
+    ::EnumThreadWindows(::GetCurrentThreadId(), collect, reinterpret_cast<LPARAM>(this));
+    m_disabled.SetSize(m_disabledCount);
+    for (int i = 0; i < m_disabled.GetSize(); i++)
+        ::EnableWindow(static_cast<HWND>(m_disabled[i]), FALSE);
+}
+
+void CFrameWnd::OnEnable(BOOL enable) {
+    CWnd::OnEnable(enable);
+    // A message box or modal dialog disables its owner only; what else the frame owns goes along with it.
+    if (GetStyle() & WS_CHILD)
+        return;
+    if (!enable && !InModalState()) {
+        m_disabledByOwner = TRUE;
+        BeginModalState();
+    } else if (enable && m_disabledByOwner) {
+        m_disabledByOwner = FALSE;
+        EndModalState();
+    }
 }
 
 void CFrameWnd::EndModalState() {

@@ -43,8 +43,8 @@ void CGdiObject::DeleteTempMap() {
 BOOL CGdiObject::Attach(HGDIOBJ object) {
     if (!object)
         return FALSE;
-    m_hObject = object;
     GdiMap().SetPermanent(object, this);
+    m_hObject = object;
     return TRUE;
 }
 

@@ -31,8 +31,8 @@ void CMenu::DeleteTempMap() {
 BOOL CMenu::Attach(HMENU menu) {
     if (!menu)
         return FALSE;
-    m_hMenu = menu;
     MenuMap().SetPermanent(menu, this);
+    m_hMenu = menu;
     return TRUE;
 }
 

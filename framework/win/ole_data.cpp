@@ -217,11 +217,24 @@ public:
     STDMETHODIMP_(ULONG) AddRef() override { return 2; }
     STDMETHODIMP_(ULONG) Release() override { return 1; }
     STDMETHODIMP QueryContinueDrag(BOOL escape, DWORD keys) override {
-        return m_source->QueryContinueDrag(escape, keys);
+        return Contain(DRAGDROP_S_CANCEL, [&] { return m_source->QueryContinueDrag(escape, keys); });
     }
-    STDMETHODIMP GiveFeedback(DWORD effect) override { return m_source->GiveFeedback(effect); }
+    STDMETHODIMP GiveFeedback(DWORD effect) override {
+        return Contain(DRAGDROP_S_USEDEFAULTCURSORS, [&] { return m_source->GiveFeedback(effect); });
+    }
 
 private:
+    // No exception may pass into the system.
+    template <class METHOD> static HRESULT Contain(HRESULT failed, METHOD method) {
+        try {
+            return method();
+        } catch (CException *e) {
+            e->Delete();
+        } catch (const std::exception &) {
+        }
+        return failed;
+    }
+
     COleDropSource *m_source;
 };
 

@@ -17,5 +17,7 @@ void AfxDeleteTempObjects();
 HWND AfxSafeOwner(HWND parent, HWND *disabledTop);
 // Takes one message and handles it; FALSE on WM_QUIT. *current gets the message.
 BOOL AfxPumpMessage(MSG *current);
+// The same by the thread's own PumpMessage, if there is a thread object.
+BOOL AfxPumpThread(MSG *current);
 // Whether the message is a reason to go idle after it.
 BOOL AfxIsIdleMessage(MSG *message);

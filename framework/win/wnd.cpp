@@ -34,8 +34,13 @@ private:
 
 // What a message answers when its handler failed.
 LRESULT FailedMessage(CException *e, const MSG &message) {
-    if (CWinThread *thread = AfxGetThread())
-        return thread->ProcessWndProcException(e, &message);
+    try {
+        if (CWinThread *thread = AfxGetThread())
+            return thread->ProcessWndProcException(e, &message);
+    } catch (CException *second) {
+        // Even the report failed; there is nobody left to tell.
+        second->Delete();
+    }
     if (message.message == WM_CREATE)
         return -1;
     if (message.message == WM_PAINT)
@@ -54,12 +59,21 @@ LRESULT CALLBACK CreateHook(int code, WPARAM wParam, LPARAM lParam) {
     const HWND created = reinterpret_cast<HWND>(wParam);
     if (code != HCBT_CREATEWND || !wnd || IsImeWindow(created))
         return ::CallNextHookEx(state.createHook, code, wParam, lParam);
+    // When this fails, refusing the window is the only way out: the system would not survive the exception. The
+    // object stays noted, so that its maker learns that it has no window.
+    bool attached = false;
     try {
+        // Windows that PreSubclassWindow makes are its own affair.
         state.windowToCreate = nullptr;
         wnd->SubclassWindow(created);
+        attached = true;
     } catch (CException *e) {
-        // Refusing the window is the only way out: the system would not survive the exception.
         e->Delete();
+    } catch (const std::exception &) {
+    }
+    if (!attached) {
+        wnd->Detach();
+        state.windowToCreate = wnd;
         return 1;
     }
     return ::CallNextHookEx(state.createHook, code, wParam, lParam);
@@ -97,6 +111,9 @@ LRESULT AfxCallWndProc(CWnd *wnd, HWND hWnd, UINT message, WPARAM wParam, LPARAM
         result = FailedMessage(&e, inner);
     } catch (const std::exception &error) {
         CForeignException e(error.what());
+        result = FailedMessage(&e, inner);
+    } catch (...) {
+        CForeignException e("An unknown error has occurred.");
         result = FailedMessage(&e, inner);
     }
     state.lastSentMessage = outer;
@@ -159,8 +176,8 @@ void CWnd::DeleteTempMap() {
 BOOL CWnd::Attach(HWND wnd) {
     if (!wnd)
         return FALSE;
-    m_hWnd = wnd;
     WndMap().SetPermanent(wnd, this);
+    m_hWnd = wnd;
     return TRUE;
 }
 
@@ -264,6 +281,8 @@ void CWnd::OnNcDestroy() {
         AfxPostQuitMessage(0);
         thread->m_pMainWnd = nullptr;
     }
+    // A modal loop of this window has nothing left to wait for.
+    m_nFlags &= ~WF_CONTINUEMODAL;
     if (m_pDropTarget)
         AfxRevokeDropTarget(m_pDropTarget);
     const LONG_PTR before = ::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC);

@@ -138,8 +138,8 @@ CWnd *CWnd::GetTopLevelParent() const {
 
 CWnd *CWnd::GetTopLevelOwner() const {
     HWND wnd = m_hWnd;
-    while (wnd && ::GetWindowLong(wnd, GWL_STYLE) & WS_CHILD)
-        wnd = ::GetParent(wnd);
+    while (const HWND owner = wnd ? ::GetWindow(wnd, GW_OWNER) : nullptr)
+        wnd = owner;
     return FromHandle(wnd);
 }
 
@@ -223,7 +223,7 @@ int CWnd::RunModalLoop(DWORD flags) {
             if (!ContinueModal())
                 break;
             MSG current;
-            if (!AfxPumpMessage(&current)) {
+            if (!AfxPumpThread(&current)) {
                 // The quit message is the outer loop's as well.
                 AfxPostQuitMessage(static_cast<int>(current.wParam));
                 m_nFlags &= ~(WF_MODALLOOP | WF_CONTINUEMODAL);

@@ -126,6 +126,8 @@ TEST(CString, Finds) {
     EXPECT_EQ(a.Find('b', 2), 4);
     EXPECT_EQ(a.Find('z'), -1);
     EXPECT_EQ(a.Find('a', 6), -1);
+    EXPECT_EQ(a.Find('\0', 6), -1);
+    EXPECT_EQ(a.Find('a', 99), -1);
     EXPECT_EQ(a.Find("ca"), 2);
     EXPECT_EQ(a.Find("abc", 1), 3);
     EXPECT_EQ(a.Find(""), 0);

@@ -1,0 +1,53 @@
+#include "grid/UGButtonType.h"
+
+#include "grid/UGCtrl.h"
+
+int CUGButtonType::ButtonWidth() {
+    return ::GetSystemMetrics(SM_CXVSCROLL);
+}
+
+RECT CUGButtonType::ButtonRect(const RECT &cell) {
+    RECT button = cell;
+    button.left = std::max(button.right - ButtonWidth(), cell.left);
+    return button;
+}
+
+int CUGButtonType::GetEditArea(RECT *rect) {
+    rect->right = std::max<LONG>(rect->right - ButtonWidth() - 1, rect->left);
+    return 0;
+}
+
+int CUGButtonType::OnKillFocus(int col, long row, CUGCell *cell) {
+    ForgetCell();
+    return CUGCellType::OnKillFocus(col, row, cell);
+}
+
+void CUGButtonType::PressCell(int col, long row, const RECT &cell) {
+    m_btnRect = ButtonRect(cell);
+    m_btnCol = col;
+    m_btnRow = row;
+    m_pressed = true;
+    m_ctrl->RedrawCell(col, row);
+}
+
+void CUGButtonType::ForgetCell() {
+    m_btnCol = -1;
+    m_btnRow = -1;
+    m_pressed = false;
+}
+
+void CUGButtonType::DrawTextBeside(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current) {
+    RECT text = *rect;
+    text.right = std::max<LONG>(text.right - ButtonWidth() - 1, text.left);
+    // The strip between text and button has the cell's back colour.
+    RECT strip = *rect;
+    strip.left = text.right;
+    dc->FillSolidRect(&strip, cell->GetBackColor());
+    CUGCellType::OnDraw(dc, &text, cell, selected, current);
+}
+
+void CUGButtonType::DrawFace(CDC *dc, const RECT &button, bool pressed) {
+    RECT face = button;
+    dc->FillSolidRect(&face, ::GetSysColor(COLOR_BTNFACE));
+    ::DrawEdge(dc->GetSafeHdc(), &face, pressed ? BDR_SUNKENOUTER : BDR_RAISEDINNER, BF_RECT);
+}

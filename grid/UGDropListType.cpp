@@ -1,0 +1,116 @@
+#include "grid/UGDropListType.h"
+
+#include "grid/UGCtrl.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kListChildId = 238;
+constexpr int kFontHeightPx = 12; // where neither the cell nor the grid has a font
+constexpr int kBorderPx = 2;      // both lines of the list's frame
+
+} // namespace
+
+CUGDropListType::CUGDropListType() : CUGButtonType(kDropListTypeId) {
+    m_list.m_col = &m_btnCol;
+    m_list.m_row = &m_btnRow;
+}
+
+int CUGDropListType::OnLClicked(int col, long row, int updn, RECT *rect, POINT *point) {
+    if (!updn) {
+        if (!m_pressed)
+            return UGCT_NOT_HANDLED;
+        m_pressed = false;
+        m_ctrl->RedrawCell(col, row);
+        return UGCT_HANDLED;
+    }
+    const RECT button = ButtonRect(*rect);
+    if (!::PtInRect(&button, *point)) {
+        ForgetCell();
+        return UGCT_NOT_HANDLED;
+    }
+    if ((m_list.m_open && IsPressedCell(col, row)) || m_btnCol == kListJustClosed) {
+        m_list.Close();
+        ForgetCell();
+        return UGCT_NOT_HANDLED;
+    }
+    PressCell(col, row, *rect);
+    OpenList();
+    return UGCT_HANDLED;
+}
+
+int CUGDropListType::OnDClicked(int col, long row, RECT *rect, POINT *point) {
+    const RECT button = ButtonRect(*rect);
+    return ::PtInRect(&button, *point) ? OnLClicked(col, row, 1, rect, point) : UGCT_NOT_HANDLED;
+}
+
+int CUGDropListType::OnKeyDown(UINT *key) {
+    const bool ctrl = (::GetKeyState(VK_CONTROL) & 0x8000) != 0;
+    if (*key != VK_RETURN && !(*key == VK_DOWN && ctrl))
+        return UGCT_NOT_HANDLED;
+    m_btnCol = m_ctrl->GetCurrentCol();
+    m_btnRow = m_ctrl->GetCurrentRow();
+    OpenList();
+    *key = 0;
+    return UGCT_HANDLED;
+}
+
+// Each line that a line feed ends is an item; text behind the last line feed is none.
+void CUGDropListType::SplitLabel(const char *label, CStringList *items) {
+    const CString text(label);
+    int start = 0;
+    for (int end = text.Find('\n'); end >= 0; end = text.Find('\n', start)) {
+        items->AddTail(text.Mid(start, end - start));
+        start = end + 1;
+    }
+}
+
+// Below the cell, as high as its items need and the control has room for.
+RECT CUGDropListType::ListRect(int col, long row, int itemHeight, int count) const {
+    CRect cell, client;
+    m_ctrl->GetCellRect(col, row, &cell);
+    m_ctrl->GetClientRect(&client);
+    cell.OffsetRect(m_GI->m_sideHeadingWidth, m_GI->m_topHeadingHeight);
+    const int wanted = itemHeight * std::max(count, 1) + kBorderPx;
+    const int room = std::max<int>(client.bottom - cell.bottom, itemHeight + kBorderPx);
+    return {cell.left, cell.bottom, cell.right, cell.bottom + std::min(wanted, room)};
+}
+
+int CUGDropListType::OpenList() {
+    if (m_list.m_open)
+        return GRID_ERROR;
+    const int col = m_ctrl->GetCurrentCol();
+    const long row = m_ctrl->GetCurrentRow();
+    CStringList items;
+    SplitLabel(m_GI->m_currentCell.GetLabelText(), &items);
+    m_ctrl->OnCellTypeNotify(GetID(), col, row, kListOpens, reinterpret_cast<LPARAM>(&items));
+    m_list.m_ctrl = m_ctrl;
+    constexpr DWORD kStyle = WS_CHILD | WS_BORDER | WS_VSCROLL | WS_CLIPSIBLINGS | LBS_NOINTEGRALHEIGHT;
+    if (!m_list.Create(kStyle, CRect(0, 0, 0, 0), m_ctrl, kListChildId))
+        return GRID_ERROR;
+    HFONT font = m_GI->m_currentCell.GetFontHandle();
+    if (font == nullptr)
+        font = m_GI->m_defaultFont;
+    m_list.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    for (POSITION at = items.GetHeadPosition(); at != nullptr;)
+        m_list.AddString(items.GetNext(at));
+    const int itemHeight = font != nullptr ? m_list.GetItemHeight(0) : kFontHeightPx + kBorderPx;
+    m_list.MoveWindow(CRect(ListRect(col, row, itemHeight, m_list.GetCount())));
+    m_list.SelectString(-1, m_GI->m_currentCell.GetText());
+    m_list.m_open = true;
+    ::SetWindowPos(m_list.m_hWnd, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
+    m_list.SetFocus();
+    return GRID_SUCCESS;
+}
+
+void CUGDropListType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current) {
+    if ((StyleOf(cell) & kHideButtonStyle) && !current) {
+        CUGCellType::OnDraw(dc, rect, cell, selected, current);
+        return;
+    }
+    DrawTextBeside(dc, rect, cell, selected, current);
+    RECT button = ButtonRect(*rect);
+    ::DrawFrameControl(dc->GetSafeHdc(), &button, DFC_SCROLL,
+                       DFCS_SCROLLCOMBOBOX | (m_pressed && current ? DFCS_PUSHED : 0));
+}

@@ -1,0 +1,79 @@
+#include "grid/UGLstBox.h"
+
+#include "grid/UGCtrl.h"
+
+#include <utility>
+
+IMPLEMENT_DYNAMIC(CUGLstBox, CListBox)
+
+BEGIN_MESSAGE_MAP(CUGLstBox, CListBox)
+    ON_WM_KEYDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_KILLFOCUS()
+    ON_WM_GETDLGCODE()
+END_MESSAGE_MAP()
+
+void CUGLstBox::Close() {
+    if (!std::exchange(m_open, false) || GetSafeHwnd() == nullptr)
+        return;
+    DestroyWindow();
+}
+
+void CUGLstBox::Take() {
+    const int item = GetCurSel();
+    if (item == LB_ERR) {
+        m_ctrl->m_grid.SetFocus();
+        Close();
+        return;
+    }
+    CString text;
+    GetText(item, text);
+    const int col = *m_col;
+    const long row = *m_row;
+    m_chosen = true;
+    m_ctrl->OnCellTypeNotify(kDropListTypeId, col, row, kItemChosen,
+                             reinterpret_cast<LPARAM>(static_cast<const char *>(text)));
+    CUGCell cell;
+    m_ctrl->GetCellRaw(col, row, &cell);
+    cell.SetText(text);
+    m_ctrl->SetCell(col, row, &cell);
+    m_ctrl->RedrawCell(col, row);
+    *m_col = -1;
+    *m_row = -1;
+    m_ctrl->m_grid.SetFocus();
+    Close();
+}
+
+void CUGLstBox::OnKeyDown(UINT key, UINT, UINT) {
+    if (key == VK_RETURN) {
+        Take();
+    } else if (key == VK_ESCAPE) {
+        m_chosen = false;
+        m_ctrl->m_grid.SetFocus();
+        Close();
+    } else {
+        Default();
+    }
+}
+
+void CUGLstBox::OnLButtonUp(UINT, CPoint) {
+    Default();
+    if (GetSafeHwnd() != nullptr)
+        Take();
+}
+
+void CUGLstBox::OnKillFocus(CWnd *next) {
+    CListBox::OnKillFocus(next);
+    if (!m_open)
+        return;
+    if (!std::exchange(m_chosen, false)) {
+        *m_col = kListJustClosed;
+        *m_row = kListJustClosed;
+    }
+    Close();
+    m_ctrl->m_grid.UpdateWindow();
+}
+
+UINT CUGLstBox::OnGetDlgCode() {
+    return DLGC_WANTALLKEYS;
+}

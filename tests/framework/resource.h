@@ -1,0 +1,20 @@
+#define IDD_EXCHANGE 101
+#define IDD_PLAIN 102
+#define IDR_MAIN 110
+#define IDR_CHILD 111
+#define IDS_LONG 120
+
+#define IDC_TEXT 1001
+#define IDC_NUMBER 1002
+#define IDC_CHECK 1003
+#define IDC_RADIO1 1004
+#define IDC_RADIO2 1005
+#define IDC_LIST 1006
+#define IDC_COMBO 1007
+#define IDC_SCROLL 1008
+#define IDC_APPLY 1009
+
+#define ID_TEST_ONE 32771
+#define ID_TEST_TWO 32772
+#define ID_TEST_ORPHAN 32773
+#define ID_TEST_CHILD 32774
