@@ -52,8 +52,10 @@ int CUGEdit::Finish() {
     if (!m_active)
         return 1;
     m_active = false;
-    const int col = m_ctrl->GetCurrentCol();
-    const long row = m_ctrl->GetCurrentRow();
+    // The cell that the box stands over: a notification may have made another one current meanwhile, as when a
+    // key appends a record, and the text must not end up there.
+    const int col = m_ctrl->m_GI.m_editCol;
+    const long row = m_ctrl->m_GI.m_editRow;
     if (!m_ctrl->OnEditFinish(col, row, this)) {
         m_active = true; // the box stays open and asks again
         return 0;

@@ -18,7 +18,7 @@ TEST_F(EditorEditingTest, ABoundaryIsMarkedAndThenTheCellIsWritten) {
     Type(editor, "x");
     SendKey(editor.Edit(), VK_TAB);
     EXPECT_EQ("src.StartTransaction() src.EndTransaction() Title(table,null) src.SetCell(0,0,x)",
-              m_log.Take().substr(0, 79));
+              m_log.Take().substr(0, 80));
     EXPECT_EQ("cur=(1,0) size=3x3", editor.State());
     EXPECT_EQ("1.0", Box(editor));
 }
@@ -201,7 +201,10 @@ TEST_F(EditorEditingTest, EnterInTheBoxOfTheLastRowAppendsAndGoesDown) {
     SendKey(editor.Edit(), VK_RETURN);
     EXPECT_EQ(3, m_source->GetNumRows());
     EXPECT_EQ("cur=(1,2) size=2x3", editor.State());
+    // The text stands in the row where it was typed, not in the one that was appended.
     EXPECT_EQ("x", m_source->Text(1, 1));
+    EXPECT_EQ("", m_source->Text(1, 2));
+    EXPECT_EQ("", Box(editor));
 }
 
 TEST_F(EditorEditingTest, EnterAsTabGoesRightAndAppendsOnlyAtTheEnd) {

@@ -88,11 +88,11 @@ TEST_F(EditorFontsTest, ChangesLeaveNoFontsBehind) {
     Open(2, 3);
     CEditorCore::SetFonts(FontOf(12), FontOf(12));
     PumpAll();
-    const DWORD before = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS);
-    for (int i = 0; i < 50; ++i)
+    const int before = HighestDrawingHandle();
+    for (int i = 0; i < 200; ++i)
         CEditorCore::SetFonts(FontOf(10 + i % 3), FontOf(12));
     PumpAll();
-    EXPECT_LE(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS), before + 3);
+    EXPECT_LE(HighestDrawingHandle(), before + 50);
 }
 
 } // namespace

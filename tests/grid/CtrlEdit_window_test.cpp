@@ -363,6 +363,17 @@ TEST_F(CtrlEditTest, ACellBelowTheViewIsBroughtIntoViewForTheEdit) {
     EXPECT_EQ("0.40", EditText());
 }
 
+TEST_F(CtrlEditTest, AMoveDuringTheEditDoesNotMoveItsText) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    Type("x");
+    m_grid.GotoCell(0, 3);
+    Key(VK_DOWN);
+    EXPECT_EQ("x", m_source->Text(0, 0));
+    EXPECT_EQ("0.3", m_source->Text(0, 3));
+    EXPECT_EQ("cur=(0,1) view=(0,0) size=3x5", m_grid.State());
+}
+
 TEST_F(CtrlEditTest, DestroyingTheControlEndsTheEdit) {
     Fill(3, 5);
     m_grid.StartEdit();

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -163,6 +164,33 @@ std::string WindowText(HWND window) {
     char text[512] = "";
     ::GetWindowTextA(window, text, sizeof text);
     return text;
+}
+
+namespace {
+
+constexpr int kProbes = 64; // more than the holes that are left by what came and went
+
+// Makes some handles, so that the holes are filled, and gives the highest index among them.
+template <class Make, class Free> int HighestHandle(Make make, Free free) {
+    int highest = 0;
+    std::vector<decltype(make())> handles;
+    for (int i = 0; i < kProbes; ++i) {
+        handles.push_back(make());
+        highest = std::max<int>(highest, LOWORD(reinterpret_cast<ULONG_PTR>(handles.back())));
+    }
+    for (auto handle : handles)
+        free(handle);
+    return highest;
+}
+
+} // namespace
+
+int HighestDrawingHandle() {
+    return HighestHandle([] { return ::CreatePen(PS_SOLID, 1, 0); }, [](HPEN pen) { ::DeleteObject(pen); });
+}
+
+int HighestMenuHandle() {
+    return HighestHandle([] { return ::CreatePopupMenu(); }, [](HMENU menu) { ::DestroyMenu(menu); });
 }
 
 std::string Join(const std::vector<std::string> &parts, const char *between) {

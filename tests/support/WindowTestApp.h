@@ -83,4 +83,9 @@ void ReleaseLeft(HWND window, int x, int y);
 void MoveMouse(HWND window, int x, int y, UINT flags);
 void ClickLeft(HWND window, int x, int y);
 std::string WindowText(HWND window);
+
+// Highest index of a drawing object's or menu's handle that a new one gets now. It rises by what leaked; the
+// system's own count is not to be had everywhere.
+int HighestDrawingHandle();
+int HighestMenuHandle();
 std::string Join(const std::vector<std::string> &parts, const char *between = " ");
