@@ -34,6 +34,9 @@ int CUGCtrl::StartEdit(int key) {
     if (!type->CanTextEdit())
         return GRID_ERROR;
     DestroyEdit();
+    // A view that was scrolled away from the current cell comes back: the box must be seen.
+    m_GI.m_cols.m_leading = std::min(m_GI.m_cols.m_leading, m_GI.m_cols.m_current);
+    m_GI.m_rows.m_leading = std::min(m_GI.m_rows.m_leading, m_GI.m_rows.m_current);
     BringCurrentIntoView();
     m_grid.UpdateWindow();
     RECT rect;

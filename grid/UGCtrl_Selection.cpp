@@ -61,11 +61,11 @@ bool CUGCtrl::IsInMultipleSelection() {
 
 int CUGCtrl::EnableMultiSelect(int enable) {
     m_GI.m_multiSelect = enable != 0;
-    ClearSelections();
     if (enable) {
         m_GI.m_selection.SetMode(m_GI.m_rowHighlight ? UG_SELECT_ROWS : UG_SELECT_CELLS);
         m_GI.m_selection.StartBlock(GetCurrentCol(), GetCurrentRow());
     } else {
+        ClearSelections();
         m_GI.m_selection.SetMode(UG_SELECT_OFF);
     }
     return GRID_SUCCESS;
