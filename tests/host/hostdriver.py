@@ -15,7 +15,7 @@ def environment():
     state = os.path.join(ROOT, "build", "wine")
     with open(os.path.join(state, "display")) as display:
         shown = display.read().strip()
-    return dict(os.environ, DISPLAY=shown, WINEPREFIX=os.path.join(state, "prefix"), WINEDEBUG="-all",
+    return dict(os.environ, DISPLAY=shown, WINEPREFIX=os.path.join(state, "prefix"), WINEDEBUG="-all", LC_ALL="C.UTF-8",
                 WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d",
                 FONTCONFIG_FILE=os.path.join(state, "fonts.conf"))
 
