@@ -180,7 +180,8 @@ void CUGCtrl::OnVScroll(UINT code, UINT, CScrollBar *) {
     m_vScroll.HandleScroll(code);
 }
 
-// Default colours follow the system; columns keep what was set on them, as with any change of the default.
+// The default colours follow the system. The types read the system's colours as they draw and keep no pens or
+// brushes, so the repaint is all that they need.
 void CUGCtrl::OnSysColorChange() {
     CWnd::OnSysColorChange();
     ReadSystemColours();

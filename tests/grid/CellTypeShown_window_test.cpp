@@ -64,7 +64,7 @@ TEST_F(CellTypesTest, TheProgressTextIsInTheCellsFont) {
 }
 
 TEST_F(CellTypesTest, AnAutomaticFontFillsTheCellAndCutsNothing) {
-    for (const char *text : {"I", "Word", "Several words in one cell"}) {
+    for (const char *text : {"I", "Word", "Several words in one cell", "WMWMWMWM"}) {
         Picture large(150, 60), small(60, 20);
         CUGCell cell = Coloured(text);
         cell.SetAlignment(UG_ALIGN_HCENTER | UG_ALIGN_VCENTER);
