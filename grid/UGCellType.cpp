@@ -167,7 +167,11 @@ void CUGCellType::DrawText(CDC *dc, RECT *rect, CUGCell *cell, COLORREF back) {
         const UINT side = place.horizontal < 0 ? DT_LEFT : place.horizontal > 0 ? DT_RIGHT : DT_CENTER;
         RECT area = {rect->left + kSidePx, rect->top + 1, rect->right - kSidePx, rect->bottom};
         ::SetTextAlign(hdc, TA_LEFT | TA_TOP);
-        ::DrawTextA(hdc, text, length, &area, side | DT_WORDBREAK | DT_NOPREFIX);
+        // Clipped at the cell rather than at the margin: glyphs may be wider than they were measured.
+        const int saved = ::SaveDC(hdc);
+        ::IntersectClipRect(hdc, rect->left, rect->top, rect->right, rect->bottom);
+        ::DrawTextA(hdc, text, length, &area, side | DT_WORDBREAK | DT_NOPREFIX | DT_NOCLIP);
+        ::RestoreDC(hdc, saved);
         return;
     }
     SIZE extent{};

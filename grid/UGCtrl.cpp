@@ -85,7 +85,8 @@ int CUGCtrl::OnCreate(LPCREATESTRUCT create) {
 
 bool CUGCtrl::CreateChildren() {
     const CRect nowhere(0, 0, 0, 0);
-    constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE;
+    // Hint and drop list lie above the cells, which must not paint over them.
+    constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
     return m_grid.Create(nullptr, nullptr, kStyle, nowhere, this, kGridChildId) &&
            m_topHdg.Create(nullptr, nullptr, kStyle, nowhere, this, kTopHeadingChildId) &&
            m_sideHdg.Create(nullptr, nullptr, kStyle, nowhere, this, kSideHeadingChildId) &&

@@ -68,8 +68,8 @@ const Row kRows[] = {
      {{.text = "recessed", .align = kCentre | kMiddle, .border = UG_BDR_RECESSED, .back = RGB(224, 224, 224)},
       {.text = "raised", .align = kCentre | kMiddle, .border = UG_BDR_RAISED, .back = RGB(224, 224, 224)}}},
     {"Bitmap", "With the cell's background, and with its own.", kTall,
-     {{.text = "disc", .align = kLeft | kMiddle, .back = RGB(220, 240, 255)},
-      {.text = "disc", .style = UG_STYLE_KEEP_BITMAP, .align = kLeft | kMiddle, .back = RGB(220, 240, 255)}}},
+     {{.text = "disc", .align = kLeft | kMiddle, .back = RGB(150, 200, 240)},
+      {.text = "disc", .style = UG_STYLE_KEEP_BITMAP, .align = kLeft | kMiddle, .back = RGB(150, 200, 240)}}},
     {"Mask", "Digits; letters and digits; anything.", kLow,
      {{.text = "12-34", .mask = "99\\-99"}, {.text = "AB 123", .mask = "LL 000"}, {.text = "x/y", .mask = "&/&"}}},
     {"Check box", "Click the box or press Space.", kLow,
@@ -81,9 +81,9 @@ const Row kRows[] = {
      {{.text = "Bergen", .type = kDropListTypeId, .label = kCities},
       {.text = "Cadiz", .type = kDropListTypeId, .style = kHideButtonStyle, .label = kCities}}},
     {"Spin button", "", kLow,
-     {{.text = "10", .type = kSpinTypeId, .align = kRight}, {.text = "-5", .type = kSpinTypeId, .align = kRight}}},
+     {{.text = "10", .type = kSpinTypeId, .align = kRight | kMiddle}, {.text = "-5", .type = kSpinTypeId, .align = kRight | kMiddle}}},
     {"Ellipsis button", "The button tells the program.", kLow, {{.text = "Press", .type = kEllipsisTypeId}}},
-    {"Progress", "Type a number into the text above: it is held within 0 to 100.", kLow,
+    {"Progress", "The last two stand for 150 and -3.", kLow,
      {{.text = "30", .type = kProgressTypeId},
       {.text = "75", .type = kProgressTypeId, .style = 1, .label = "Three quarters"},
       {.text = "150", .type = kProgressTypeId},
@@ -148,7 +148,7 @@ void CGalleryGrid::OnSetup() {
     AddTab("Frame", kFrameTab);
     AddTab("Highlighted Cell", kCellTab);
     AddTab("Highlighted Row", kRowTab);
-    SetTabWidth(330);
+    SetTabWidth(290);
 }
 
 void CGalleryGrid::MakeDrawingObjects() {

@@ -74,6 +74,25 @@ TEST_F(DropListTypeTest, TheListHangsBelowItsCellAndIsAsHighAsItsItems) {
     EXPECT_EQ(3 * itemHeight + 2, list.Height());
 }
 
+TEST_F(DropListTypeTest, TheCellsDoNotPaintOverTheList) {
+    ClickButton();
+    PumpAll();
+    const auto pixels = [&] {
+        const CRect list = ListRect();
+        HDC dc = ::GetWindowDC(m_grid.List());
+        std::string all;
+        for (int y = 0; y < list.Height(); ++y)
+            all += std::to_string(::GetPixel(dc, 30, y)) + " ";
+        ::ReleaseDC(m_grid.List(), dc);
+        return all;
+    };
+    ::RedrawWindow(m_grid.List(), nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+    const std::string before = pixels();
+    m_grid.RedrawAll();
+    m_grid.Update();
+    EXPECT_EQ(before, pixels());
+}
+
 TEST_F(DropListTypeTest, WithoutRoomBelowTheListStandsAboveItsCell) {
     m_grid.SetNumberRows(14);
     Put(1, 13, kDropListTypeId, "", "one\ntwo\nthree\n");
