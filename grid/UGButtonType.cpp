@@ -39,10 +39,10 @@ void CUGButtonType::ForgetCell() {
 void CUGButtonType::DrawTextBeside(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current) {
     RECT text = *rect;
     text.right = std::max<LONG>(text.right - ButtonWidth() - 1, text.left);
-    // The strip between text and button has the cell's back colour.
+    // The strip between text and button belongs to the cell.
     RECT strip = *rect;
     strip.left = text.right;
-    dc->FillSolidRect(&strip, cell->GetBackColor());
+    dc->FillSolidRect(&strip, IsHighlighted(selected, current) ? cell->GetHBackColor() : cell->GetBackColor());
     CUGCellType::OnDraw(dc, &text, cell, selected, current);
 }
 

@@ -14,23 +14,6 @@ UINT DeviceAlignment(int horizontal) {
     return horizontal < 0 ? TA_LEFT : horizontal > 0 ? TA_RIGHT : TA_CENTER;
 }
 
-// Selects an object for the length of a block.
-class ObjectScope {
-public:
-    ObjectScope(CDC *dc, HGDIOBJ object)
-        : m_dc(dc->GetSafeHdc()), m_old(object != nullptr ? ::SelectObject(m_dc, object) : nullptr) {}
-    ~ObjectScope() {
-        if (m_old != nullptr)
-            ::SelectObject(m_dc, m_old);
-    }
-    ObjectScope(const ObjectScope &) = delete;
-    ObjectScope &operator=(const ObjectScope &) = delete;
-
-private:
-    HDC m_dc;
-    HGDIOBJ m_old;
-};
-
 } // namespace
 
 CUGCellType::CUGCellType(int id) : m_id(id) {}
@@ -96,6 +79,10 @@ int CUGCellType::StyleOf(const CUGCell *cell) const {
     return style < 0 ? 0 : style;
 }
 
+bool CUGCellType::IsHighlighted(int selected, int current) const {
+    return selected || (current && (m_GI->m_currentCellStyle & 2));
+}
+
 const char *CUGCellType::DisplayText(const CUGCell *cell) const {
     return m_useLabel || (StyleOf(cell) & UG_STYLE_LABEL) ? cell->GetLabelText() : cell->GetText();
 }
@@ -110,7 +97,7 @@ void CUGCellType::GetBestSize(CDC *dc, SIZE *size, CUGCell *cell) {
 }
 
 void CUGCellType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current) {
-    const bool highlight = selected || (current && (m_GI->m_currentCellStyle & 2));
+    const bool highlight = IsHighlighted(selected, current);
     const COLORREF back = highlight ? cell->GetHBackColor() : cell->GetBackColor();
     ObjectScope font(dc, cell->GetFontHandle());
     ::SetTextColor(dc->GetSafeHdc(), highlight ? cell->GetHTextColor() : cell->GetTextColor());
@@ -180,7 +167,11 @@ void CUGCellType::DrawText(CDC *dc, RECT *rect, CUGCell *cell, COLORREF back) {
         const UINT side = place.horizontal < 0 ? DT_LEFT : place.horizontal > 0 ? DT_RIGHT : DT_CENTER;
         RECT area = {rect->left + kSidePx, rect->top + 1, rect->right - kSidePx, rect->bottom};
         ::SetTextAlign(hdc, TA_LEFT | TA_TOP);
-        ::DrawTextA(hdc, text, length, &area, side | DT_WORDBREAK | DT_NOPREFIX);
+        // Clipped at the cell rather than at the margin: glyphs may be wider than they were measured.
+        const int saved = ::SaveDC(hdc);
+        ::IntersectClipRect(hdc, rect->left, rect->top, rect->right, rect->bottom);
+        ::DrawTextA(hdc, text, length, &area, side | DT_WORDBREAK | DT_NOPREFIX | DT_NOCLIP);
+        ::RestoreDC(hdc, saved);
         return;
     }
     SIZE extent{};

@@ -60,6 +60,25 @@ public:
 protected:
     const char *DisplayText(const CUGCell *cell) const;
     int StyleOf(const CUGCell *cell) const;
+    // True when a cell in this state is drawn in the highlight colours.
+    bool IsHighlighted(int selected, int current) const;
+
+    // Selects an object for the length of a block; null selects nothing.
+    class ObjectScope {
+    public:
+        ObjectScope(CDC *dc, HGDIOBJ object)
+            : m_dc(dc->GetSafeHdc()), m_old(object != nullptr ? ::SelectObject(m_dc, object) : nullptr) {}
+        ~ObjectScope() {
+            if (m_old != nullptr)
+                ::SelectObject(m_dc, m_old);
+        }
+        ObjectScope(const ObjectScope &) = delete;
+        ObjectScope &operator=(const ObjectScope &) = delete;
+
+    private:
+        HDC m_dc;
+        HGDIOBJ m_old;
+    };
 
 private:
     void DrawBitmap(CDC *dc, RECT *rect, CUGCell *cell, COLORREF back);

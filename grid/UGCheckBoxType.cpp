@@ -69,7 +69,7 @@ void CUGCheckBoxType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, i
     const RECT box = BoxRect(*rect);
     RECT text = *rect;
     text.left = std::min<LONG>(box.right > box.left ? box.right + kLeftPx : rect->left, rect->right);
-    const bool highlight = selected || (current && (m_GI->m_currentCellStyle & 2));
+    const bool highlight = IsHighlighted(selected, current);
     RECT strip = *rect;
     strip.right = text.left;
     dc->FillSolidRect(&strip, highlight ? cell->GetHBackColor() : cell->GetBackColor());

@@ -42,9 +42,9 @@ CUGCtrl::CUGCtrl() {
     for (const auto &type : m_builtInTypes)
         AddCellType(type.get());
     m_grid.m_ctrl = m_topHdg.m_ctrl = m_sideHdg.m_ctrl = m_cornerBtn.m_ctrl = this;
-    m_vScroll.m_ctrl = m_hScroll.m_ctrl = this;
+    m_vScroll.m_ctrl = m_hScroll.m_ctrl = m_tab.m_ctrl = m_dropTarget.m_ctrl = this;
     m_grid.m_GI = m_topHdg.m_GI = m_sideHdg.m_GI = m_cornerBtn.m_GI = &m_GI;
-    m_vScroll.m_GI = m_hScroll.m_GI = &m_GI;
+    m_vScroll.m_GI = m_hScroll.m_GI = m_tab.m_GI = &m_GI;
 }
 
 CUGCtrl::~CUGCtrl() {
@@ -76,6 +76,7 @@ int CUGCtrl::OnCreate(LPCREATESTRUCT create) {
         m_GI.m_defaultFont = reinterpret_cast<HFONT>(::SendMessageA(parent->m_hWnd, WM_GETFONT, 0, 0));
     if (!CreateChildren())
         return -1;
+    m_dropTarget.Register(&m_grid); // fails without OLE: then nothing can be dropped
     m_popupMenu.CreatePopupMenu();
     OnSetup();
     AdjustComponents();
@@ -84,14 +85,16 @@ int CUGCtrl::OnCreate(LPCREATESTRUCT create) {
 
 bool CUGCtrl::CreateChildren() {
     const CRect nowhere(0, 0, 0, 0);
-    constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE;
+    // Hint and drop list lie above the cells, which must not paint over them.
+    constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
     return m_grid.Create(nullptr, nullptr, kStyle, nowhere, this, kGridChildId) &&
            m_topHdg.Create(nullptr, nullptr, kStyle, nowhere, this, kTopHeadingChildId) &&
            m_sideHdg.Create(nullptr, nullptr, kStyle, nowhere, this, kSideHeadingChildId) &&
            m_cornerBtn.Create(nullptr, nullptr, kStyle, nowhere, this, kCornerChildId) &&
            m_vScroll.Create(WS_CHILD | SBS_VERT, nowhere, this, kVScrollChildId) &&
            m_hScroll.Create(WS_CHILD | SBS_HORZ, nowhere, this, kHScrollChildId) &&
-           m_hint.Create(nullptr, nullptr, WS_CHILD | WS_CLIPSIBLINGS, nowhere, this, kHintChildId);
+           m_hint.Create(nullptr, nullptr, WS_CHILD | WS_CLIPSIBLINGS, nowhere, this, kHintChildId) &&
+           m_tab.Create(nullptr, nullptr, WS_CHILD, nowhere, this, kTabChildId);
 }
 
 // Sets the extents of the cell area for a client area of this size and says whether they changed.
@@ -128,12 +131,14 @@ void CUGCtrl::PlaceChildren(int width, int height) {
     if (m_GI.m_vScrollShown)
         m_vScroll.MoveWindow(width - m_GI.m_vScrollWidth, 0, m_GI.m_vScrollWidth, barTop);
     if (m_GI.m_hScrollShown) {
-        const int right = width - (m_GI.m_vScrollShown ? m_GI.m_vScrollWidth : 0);
-        m_hScroll.MoveWindow(m_GI.m_tabWidth, barTop, std::max(right - m_GI.m_tabWidth, 0),
-                             m_GI.m_hScrollHeight);
+        const int right = std::max(width - (m_GI.m_vScrollShown ? m_GI.m_vScrollWidth : 0), 0);
+        const int tabs = std::min(m_GI.m_tabWidth, right);
+        m_hScroll.MoveWindow(tabs, barTop, right - tabs, m_GI.m_hScrollHeight);
+        m_tab.MoveWindow(0, barTop, tabs, m_GI.m_hScrollHeight);
     }
     m_vScroll.ShowWindow(m_GI.m_vScrollShown ? SW_SHOWNA : SW_HIDE);
     m_hScroll.ShowWindow(m_GI.m_hScrollShown ? SW_SHOWNA : SW_HIDE);
+    m_tab.ShowWindow(m_GI.m_tabWidth > 0 ? SW_SHOWNA : SW_HIDE);
 }
 
 void CUGCtrl::AdjustComponents() {
@@ -180,7 +185,8 @@ void CUGCtrl::OnVScroll(UINT code, UINT, CScrollBar *) {
     m_vScroll.HandleScroll(code);
 }
 
-// Default colours follow the system; columns keep what was set on them, as with any change of the default.
+// The default colours follow the system. The types read the system's colours as they draw and keep no pens or
+// brushes, so the repaint is all that they need.
 void CUGCtrl::OnSysColorChange() {
     CWnd::OnSysColorChange();
     ReadSystemColours();
@@ -189,6 +195,7 @@ void CUGCtrl::OnSysColorChange() {
 
 void CUGCtrl::OnDestroy() {
     DestroyEdit();
+    m_dropTarget.Revoke();
     CWnd::OnDestroy();
 }
 

@@ -15,6 +15,7 @@
 #include "grid/UGCnrBtn.h"
 #include "grid/UGDefine.h"
 #include "grid/UGDropListType.h"
+#include "grid/UGDropTarget.h"
 #include "grid/UGEdit.h"
 #include "grid/UGGrid.h"
 #include "grid/UGGridInfo.h"
@@ -24,6 +25,7 @@
 #include "grid/UGShownTypes.h"
 #include "grid/UGSideHdg.h"
 #include "grid/UGSpinButtonType.h"
+#include "grid/UGTab.h"
 #include "grid/UGTopHdg.h"
 
 #include <memory>
@@ -189,6 +191,14 @@ public:
     int SetDoubleBuffer(int enable);
     CMenu *GetPopupMenu() { return &m_popupMenu; }
 
+    // --- Tabs, at the left of the horizontal bar. Ids are the host's; a click comes as OnTabSelected.
+    int AddTab(const char *text, long id) { return m_tab.AddTab(text, id); }
+    int DeleteTab(long id) { return m_tab.DeleteTab(id); }
+    int SelectTab(long id) { return m_tab.SelectTab(id); }
+    long GetSelectedTab() const { return m_tab.GetSelectedTab(); } // -1 while there are none
+    // Pixels; 0 hides the tab bar. A negative width is taken as 0.
+    int SetTabWidth(int width);
+
     // --- Drawing
     void RedrawAll();
     void RedrawCell(int col, long row);
@@ -235,6 +245,11 @@ public:
     // Serves a find dialog's message: finds `text` in the current column; with `replacement`, replaces it.
     int FindDialogText(const char *text, const char *replacement, bool replaceAll, bool closing);
     int PasteText(const char *text);
+    // Offers the text to be dragged out of the control, and returns when the drag is over with what became of
+    // it. OLE must be initialised. Without a source of its own the drag begins once the pointer has moved a
+    // little and ends with the button's release.
+    DROPEFFECT StartDrag(const char *text, COleDropSource *source = nullptr,
+                         DWORD effects = DROPEFFECT_COPY | DROPEFFECT_MOVE);
 
     CUGGridInfo m_GI;
 
@@ -263,6 +278,9 @@ protected:
     CUGVScroll m_vScroll;
     CUGHScroll m_hScroll;
     CUGHint m_hint;
+    CUGTab m_tab;
+    CUGDropTarget m_dropTarget; // of the cells, while OLE is initialised
+    COleDataSource m_dragSource; // what is dragged out
 
 private:
     friend class CUGGrid;

@@ -1,6 +1,8 @@
 // Settings of the control's conduct, its redrawing, and the device contexts it lends.
 #include "grid/UGCtrl.h"
 
+#include <algorithm>
+
 namespace {
 
 int StoreUpTo(int *setting, int value, int limit) {
@@ -156,4 +158,10 @@ CDC *CUGCtrl::GetTopHeadingDC() {
 
 int CUGCtrl::ReleaseTopHeadingDC(CDC *dc) {
     return m_topHdg.ReleaseDC(dc) ? GRID_SUCCESS : GRID_ERROR;
+}
+
+int CUGCtrl::SetTabWidth(int width) {
+    m_GI.m_tabWidth = std::max(width, 0);
+    AdjustComponents();
+    return GRID_SUCCESS;
 }

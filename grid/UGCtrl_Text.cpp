@@ -2,6 +2,7 @@
 #include "grid/UGCtrl.h"
 
 #include <algorithm>
+#include <cstring>
 
 int CUGCtrl::FindDialogText(const char *text, const char *replacement, bool replaceAll, bool closing) {
     if (closing) {
@@ -62,4 +63,18 @@ int CUGCtrl::PasteText(const char *text) {
     SelectRange(startCol, startRow, maxCol, maxRow);
     RedrawAll();
     return GRID_SUCCESS;
+}
+
+DROPEFFECT CUGCtrl::StartDrag(const char *text, COleDropSource *source, DWORD effects) {
+    const size_t bytes = std::strlen(text) + 1;
+    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, bytes);
+    void *block = memory != nullptr ? ::GlobalLock(memory) : nullptr;
+    if (block == nullptr)
+        return DROPEFFECT_NONE;
+    std::memcpy(block, text, bytes);
+    ::GlobalUnlock(memory);
+    m_dragSource.Empty();
+    m_dragSource.CacheGlobalData(CF_TEXT, memory);
+    const CRect atOnce(0, 0, 0, 0);
+    return m_dragSource.DoDragDrop(effects, source != nullptr ? &atOnce : nullptr, source);
 }

@@ -66,15 +66,30 @@ void CUGDropListType::SplitLabel(const char *label, CStringList *items) {
     }
 }
 
-// Below the cell, as high as its items need and the control has room for.
+// Below the cell and as high as its items need; above it when there is more room there. Never higher than its
+// place, so that the rest is reached by scrolling.
 RECT CUGDropListType::ListRect(int col, long row, int itemHeight, int count) const {
     CRect cell, client;
     m_ctrl->GetCellRect(col, row, &cell);
     m_ctrl->GetClientRect(&client);
     cell.OffsetRect(m_GI->m_sideHeadingWidth, m_GI->m_topHeadingHeight);
-    const int wanted = itemHeight * std::max(count, 1) + kBorderPx;
-    const int room = std::max<int>(client.bottom - cell.bottom, itemHeight + kBorderPx);
-    return {cell.left, cell.bottom, cell.right, cell.bottom + std::min(wanted, room)};
+    const LONG wanted = itemHeight * std::max(count, 1) + kBorderPx;
+    const LONG least = itemHeight + kBorderPx;
+    if (cell.bottom + wanted > client.bottom && cell.top > client.bottom - cell.bottom)
+        return {cell.left, cell.top - std::min(wanted, std::max(cell.top, least)), cell.right, cell.top};
+    return {cell.left, cell.bottom, cell.right,
+            cell.bottom + std::min(wanted, std::max(client.bottom - cell.bottom, least))};
+}
+
+// The cell's font, the grid's, or one of its own.
+HFONT CUGDropListType::ListFont() {
+    if (m_GI->m_currentCell.GetFontHandle() != nullptr)
+        return m_GI->m_currentCell.GetFontHandle();
+    if (m_GI->m_defaultFont != nullptr)
+        return m_GI->m_defaultFont;
+    if (m_ownFont.GetSafeHandle() == nullptr)
+        m_ownFont.CreateFont(kFontHeightPx, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "Arial");
+    return static_cast<HFONT>(m_ownFont.GetSafeHandle());
 }
 
 int CUGDropListType::OpenList() {
@@ -89,14 +104,10 @@ int CUGDropListType::OpenList() {
     constexpr DWORD kStyle = WS_CHILD | WS_BORDER | WS_VSCROLL | WS_CLIPSIBLINGS | LBS_NOINTEGRALHEIGHT;
     if (!m_list.Create(kStyle, CRect(0, 0, 0, 0), m_ctrl, kListChildId))
         return GRID_ERROR;
-    HFONT font = m_GI->m_currentCell.GetFontHandle();
-    if (font == nullptr)
-        font = m_GI->m_defaultFont;
-    m_list.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    m_list.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(ListFont()), FALSE);
     for (POSITION at = items.GetHeadPosition(); at != nullptr;)
         m_list.AddString(items.GetNext(at));
-    const int itemHeight = font != nullptr ? m_list.GetItemHeight(0) : kFontHeightPx + kBorderPx;
-    m_list.MoveWindow(CRect(ListRect(col, row, itemHeight, m_list.GetCount())));
+    m_list.MoveWindow(CRect(ListRect(col, row, m_list.GetItemHeight(0), m_list.GetCount())));
     m_list.SelectString(-1, m_GI->m_currentCell.GetText());
     m_list.m_open = true;
     ::SetWindowPos(m_list.m_hWnd, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);

@@ -25,5 +25,8 @@ private:
     static void SplitLabel(const char *label, CStringList *items);
     RECT ListRect(int col, long row, int itemHeight, int count) const;
 
+    HFONT ListFont();
+
     CUGLstBox m_list;
+    CFont m_ownFont; // made when neither the cell nor the grid has one
 };

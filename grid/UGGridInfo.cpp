@@ -21,11 +21,24 @@ CUGGridInfo::CUGGridInfo() {
 
 void CUGGridInfo::SetDefaultColours(COLORREF text, COLORREF back, COLORREF hText, COLORREF hBack,
                                     COLORREF heading) {
-    m_gridDefault.SetTextColor(text);
-    m_gridDefault.SetBackColor(back);
-    m_gridDefault.SetHTextColor(hText);
-    m_gridDefault.SetHBackColor(hBack);
-    m_headingDefault.SetBackColor(heading);
+    const COLORREF now[] = {text, back, hText, hBack, heading};
+    const auto follow = [&](int which, CUGCell &cell, COLORREF (CUGCell::*get)() const,
+                            int (CUGCell::*set)(COLORREF)) {
+        if (!m_hasSystemColours || (cell.*get)() == m_systemColours[which])
+            (cell.*set)(now[which]);
+    };
+    const auto followAll = [&](CUGCell &cell) {
+        follow(0, cell, &CUGCell::GetTextColor, &CUGCell::SetTextColor);
+        follow(1, cell, &CUGCell::GetBackColor, &CUGCell::SetBackColor);
+        follow(2, cell, &CUGCell::GetHTextColor, &CUGCell::SetHTextColor);
+        follow(3, cell, &CUGCell::GetHBackColor, &CUGCell::SetHBackColor);
+    };
+    followAll(m_gridDefault);
+    for (const auto &column : m_colDefaults)
+        followAll(*column);
+    follow(4, m_headingDefault, &CUGCell::GetBackColor, &CUGCell::SetBackColor);
+    std::copy(std::begin(now), std::end(now), m_systemColours);
+    m_hasSystemColours = true;
 }
 
 void CUGGridInfo::ResizeColumns(int count) {

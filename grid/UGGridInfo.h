@@ -67,9 +67,12 @@ public:
     int m_suppressFinish = 0; // an edit that loses the focus goes on
 
     CUGSelectionList m_selection;
+    COLORREF m_systemColours[5] = {}; // as last put in
+    bool m_hasSystemColours = false;
 
-    // Puts the start values into the default cells. Colours in the order text, back, highlight text, highlight
-    // back of the cells, and back of the headings.
+    // Puts the system's colours into the default cells of grid, columns and headings, where these do not have
+    // a colour of their own, that is another than this operation put in last. Colours in the order text, back,
+    // highlight text, highlight back of the cells, and back of the headings.
     void SetDefaultColours(COLORREF text, COLORREF back, COLORREF hText, COLORREF hBack, COLORREF heading);
 
     // Gives the axis `count` columns: kept ones keep width, default and heading, new ones get copies of the

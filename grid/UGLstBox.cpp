@@ -11,18 +11,26 @@ BEGIN_MESSAGE_MAP(CUGLstBox, CListBox)
     ON_WM_LBUTTONUP()
     ON_WM_KILLFOCUS()
     ON_WM_GETDLGCODE()
+    ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 void CUGLstBox::Close() {
     if (!std::exchange(m_open, false) || GetSafeHwnd() == nullptr)
         return;
+    if (::GetFocus() == m_hWnd)
+        m_ctrl->m_grid.SetFocus();
     DestroyWindow();
+}
+
+// The list may also go with the control.
+void CUGLstBox::OnDestroy() {
+    m_open = false;
+    CListBox::OnDestroy();
 }
 
 void CUGLstBox::Take() {
     const int item = GetCurSel();
     if (item == LB_ERR) {
-        m_ctrl->m_grid.SetFocus();
         Close();
         return;
     }
@@ -30,9 +38,11 @@ void CUGLstBox::Take() {
     GetText(item, text);
     const int col = *m_col;
     const long row = *m_row;
-    m_chosen = true;
+    // The receiver may take the focus away, with a message box say: the item is chosen all the same.
+    m_choosing = true;
     m_ctrl->OnCellTypeNotify(kDropListTypeId, col, row, kItemChosen,
                              reinterpret_cast<LPARAM>(static_cast<const char *>(text)));
+    m_choosing = false;
     CUGCell cell;
     m_ctrl->GetCellRaw(col, row, &cell);
     cell.SetText(text);
@@ -40,7 +50,6 @@ void CUGLstBox::Take() {
     m_ctrl->RedrawCell(col, row);
     *m_col = -1;
     *m_row = -1;
-    m_ctrl->m_grid.SetFocus();
     Close();
 }
 
@@ -48,8 +57,6 @@ void CUGLstBox::OnKeyDown(UINT key, UINT, UINT) {
     if (key == VK_RETURN) {
         Take();
     } else if (key == VK_ESCAPE) {
-        m_chosen = false;
-        m_ctrl->m_grid.SetFocus();
         Close();
     } else {
         Default();
@@ -66,12 +73,13 @@ void CUGLstBox::OnKillFocus(CWnd *next) {
     CListBox::OnKillFocus(next);
     if (!m_open)
         return;
-    if (!std::exchange(m_chosen, false)) {
+    if (!m_choosing) {
         *m_col = kListJustClosed;
         *m_row = kListJustClosed;
     }
     Close();
-    m_ctrl->m_grid.UpdateWindow();
+    if (m_ctrl->m_grid.GetSafeHwnd() != nullptr)
+        m_ctrl->m_grid.UpdateWindow();
 }
 
 UINT CUGLstBox::OnGetDlgCode() {

@@ -19,6 +19,7 @@ public:
     long *m_row = nullptr;
     bool m_open = false;
 
+    // Leaves the markers alone; the focus goes to the cells when the list has it.
     void Close();
 
 protected:
@@ -27,9 +28,10 @@ protected:
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnKillFocus(CWnd *next);
     afx_msg UINT OnGetDlgCode();
+    afx_msg void OnDestroy();
 
 private:
     void Take();
 
-    bool m_chosen = false;
+    bool m_choosing = false; // an item is being told
 };

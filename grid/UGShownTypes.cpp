@@ -6,6 +6,12 @@
 #include <cstdlib>
 #include <cstring>
 
+namespace {
+
+constexpr int kTextMarginPx = 3; // what the base type leaves beside the text
+
+} // namespace
+
 CUGProgressType::CUGProgressType() : CUGCellType(kProgressTypeId) {
     m_canTextEdit = 0;
 }
@@ -25,6 +31,7 @@ CString CUGProgressType::ShownText(const CUGCell *cell) const {
 // The text is drawn twice, each time clipped to one side of the bar's end, in that side's colours.
 void CUGProgressType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int, int) {
     HDC hdc = dc->GetSafeHdc();
+    ObjectScope font(dc, cell->GetFontHandle());
     const CString text = ShownText(cell);
     SIZE extent{};
     ::GetTextExtentPoint32A(hdc, text, text.GetLength(), &extent);
@@ -61,7 +68,7 @@ void CUGAutoFontType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, i
         SIZE extent{};
         ::GetTextExtentPoint32A(hdc, DisplayText(cell), length, &extent);
         ::SelectObject(hdc, old);
-        if (extent.cx <= width && extent.cy <= height)
+        if (extent.cx + 2 * kTextMarginPx <= width && extent.cy <= height)
             break;
     }
     CUGCell fitted(*cell);
@@ -76,7 +83,7 @@ CUGArrowType::CUGArrowType() : CUGCellType(kArrowTypeId) {
 
 void CUGArrowType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current) {
     HDC hdc = dc->GetSafeHdc();
-    const bool highlight = selected || (current && (m_GI->m_currentCellStyle & 2));
+    const bool highlight = IsHighlighted(selected, current);
     dc->FillSolidRect(rect, highlight ? cell->GetHBackColor() : cell->GetBackColor());
     RECT r = *rect;
     ::InflateRect(&r, -2, -2);

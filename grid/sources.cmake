@@ -11,6 +11,7 @@ set(GRID_MODEL_SOURCES
     UGMem_Search.cpp
     UGScrollRange.cpp
     UGSelectionList.cpp
+    UGTabLayout.cpp
 )
 
 # The windows and what draws.
@@ -18,6 +19,7 @@ set(GRID_WINDOW_SOURCES
     UGButtonType.cpp
     UGCheckBoxType.cpp
     UGDropListType.cpp
+    UGDropTarget.cpp
     UGEllipsisType.cpp
     UGLstBox.cpp
     UGShownTypes.cpp
@@ -45,6 +47,7 @@ set(GRID_WINDOW_SOURCES
     UGHint.cpp
     UGScroll.cpp
     UGSideHdg.cpp
+    UGTab.cpp
     UGTopHdg.cpp
 )
 list(TRANSFORM GRID_MODEL_SOURCES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)

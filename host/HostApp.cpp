@@ -4,11 +4,13 @@
 
 #include "editorcore/EditorCore.h"
 #include "host/ChildFrame.h"
+#include "host/GalleryFrame.h"
 #include "host/MainFrame.h"
 #include "host/Resource.h"
 
 BEGIN_MESSAGE_MAP(CHostApp, CWinApp)
     ON_COMMAND(ID_FILE_OPEN, OnFileOpen)
+    ON_COMMAND(ID_HELP_GALLERY, OnGallery)
     ON_COMMAND(ID_APP_ABOUT, OnAbout)
 END_MESSAGE_MAP()
 
@@ -86,6 +88,10 @@ bool CHostApp::OpenTable(const char *path) {
     child->FocusTable();
     AddToRecentFileList(path);
     return true;
+}
+
+void CHostApp::OnGallery() {
+    CGalleryFrame::Open(m_pMainWnd);
 }
 
 void CHostApp::OnAbout() {

@@ -18,6 +18,7 @@ public:
 private:
     DECLARE_MESSAGE_MAP()
     afx_msg void OnFileOpen();
+    afx_msg void OnGallery();
     afx_msg void OnAbout();
 
     CString CommandLineFile() const;

@@ -3,6 +3,7 @@
 
 #define IDR_MAINFRAME 100
 #define IDR_TABLE 101 // a child window with a table
+#define IDR_GALLERY 102
 
 #define IDD_ABOUT 120
 #define IDD_FIELD_ORDER 121
@@ -33,6 +34,7 @@
 #define ID_ENTER_IS_TAB 32776
 #define ID_FILE_INFORMATION 32777
 #define ID_VIEW_OPTIONS 32778
+#define ID_HELP_GALLERY 32779
 
 #define ID_PANE_RECORD 33001
 #define ID_PANE_FIELD 33002

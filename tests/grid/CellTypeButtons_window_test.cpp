@@ -1,0 +1,255 @@
+// The types with a button or a box: ellipsis, spin button, check box.
+#include "CellTypesTest.h"
+
+namespace {
+
+class EllipsisTypeTest : public CellTypesTest {
+protected:
+    void SetUp() override { Put(1, 1, kEllipsisTypeId, "text"); }
+    CPoint Button() { return ButtonOf(1, 1).CenterPoint(); }
+    CPoint Text() { return RectOf(1, 1).TopLeft() + CSize(5, 5); }
+    // True when the button of the picture looks pushed in: its upper edge is dark.
+    bool LooksPressed(int current) {
+        Picture picture(100, 20);
+        Draw(picture, kEllipsisTypeId, Coloured("x"), 0, current);
+        return picture.At(90, 0) == ::GetSysColor(COLOR_BTNSHADOW);
+    }
+};
+
+TEST_F(EllipsisTypeTest, TheEditCoversTheButton) {
+    CRect rect(0, 0, 100, 20);
+    EXPECT_EQ(0, Type(kEllipsisTypeId)->GetEditArea(&rect));
+    EXPECT_EQ(CRect(0, 0, 100, 20), rect);
+}
+
+TEST_F(EllipsisTypeTest, PressAndReleaseNotifyOnce) {
+    EXPECT_TRUE(Repaints(1, 1, [&] { EXPECT_EQ(-2, Press(kEllipsisTypeId, 1, 1, Button())); }));
+    EXPECT_TRUE(LooksPressed(1));
+    EXPECT_FALSE(LooksPressed(0));
+    EXPECT_EQ("", Told());
+    EXPECT_TRUE(Repaints(1, 1, [&] { EXPECT_EQ(-2, Release(kEllipsisTypeId, 1, 1, Button())); }));
+    EXPECT_EQ("1002.1.1.100=0", Told());
+    EXPECT_FALSE(LooksPressed(1));
+    EXPECT_EQ(-1, Release(kEllipsisTypeId, 1, 1, Button()));
+    EXPECT_EQ("", Told());
+}
+
+TEST_F(EllipsisTypeTest, APressBesideTheButtonForgetsTheCell) {
+    Press(kEllipsisTypeId, 1, 1, Button());
+    EXPECT_EQ(-1, Press(kEllipsisTypeId, 1, 1, Text()));
+    EXPECT_FALSE(LooksPressed(1));
+    Release(kEllipsisTypeId, 1, 1, Text());
+    EXPECT_EQ("", Told());
+}
+
+TEST_F(EllipsisTypeTest, LeavingTheButtonUnpressesItAndComingBackPressesIt) {
+    Press(kEllipsisTypeId, 1, 1, Button());
+    EXPECT_EQ(-2, Move(kEllipsisTypeId, Button()));
+    EXPECT_TRUE(Repaints(1, 1, [&] { EXPECT_EQ(0, Move(kEllipsisTypeId, Text())); }));
+    EXPECT_FALSE(LooksPressed(1));
+    EXPECT_TRUE(Repaints(1, 1, [&] { EXPECT_EQ(-2, Move(kEllipsisTypeId, Button())); }));
+    EXPECT_TRUE(LooksPressed(1));
+    Move(kEllipsisTypeId, Text());
+    Release(kEllipsisTypeId, 1, 1, Text());
+    EXPECT_EQ("", Told());
+}
+
+TEST_F(EllipsisTypeTest, TheMouseDoesTheSameThroughTheCellArea) {
+    const CPoint button = Button(), text = Text();
+    PressLeft(m_grid.Cells(), button.x, button.y);
+    MoveMouse(m_grid.Cells(), text.x, text.y, MK_LBUTTON);
+    MoveMouse(m_grid.Cells(), button.x, button.y, MK_LBUTTON);
+    ReleaseLeft(m_grid.Cells(), button.x, button.y);
+    EXPECT_EQ("1002.1.1.100=0", Told());
+}
+
+TEST_F(EllipsisTypeTest, ADoubleClickIsNotItsMatter) {
+    EXPECT_EQ(0, DoubleClick(kEllipsisTypeId, 1, 1, Button()));
+    EXPECT_EQ("", Told());
+}
+
+TEST_F(EllipsisTypeTest, TheButtonHasALineAndThreeDotsAndTheTextEndsBeforeIt) {
+    Picture picture(100, 20);
+    Draw(picture, kEllipsisTypeId, Coloured("HHHHHHHHHHHHHHHHHHHHHHHH"));
+    const int width = ::GetSystemMetrics(SM_CXVSCROLL);
+    const CRect button(100 - width, 0, 100, 20);
+    EXPECT_EQ(100 - width - 1, picture.Bounds(kRed).right);
+    EXPECT_EQ(20, picture.Count(::GetSysColor(COLOR_BTNSHADOW), CRect(button.left - 1, 0, button.left, 20)));
+    EXPECT_EQ(::GetSysColor(COLOR_BTNFACE), picture.At(button.left + 4, 4));
+    const CRect inner(button.left + 2, 2, button.right - 2, 18);
+    const int left = button.left + (width - 7) / 2;
+    EXPECT_EQ(CRect(left, 15, left + 7, 17), picture.Bounds(::GetSysColor(COLOR_BTNTEXT), inner));
+    EXPECT_EQ(6, picture.Count(::GetSysColor(COLOR_BTNTEXT), inner));
+    EXPECT_EQ(0, picture.Count(kUnpainted));
+}
+
+class SpinTypeTest : public CellTypesTest {
+protected:
+    void SetUp() override { Put(1, 1, kSpinTypeId, "42"); }
+    CPoint Half(bool upper) {
+        const CRect button = ButtonOf(1, 1);
+        return CPoint(button.CenterPoint().x, upper ? button.top + 3 : button.bottom - 4);
+    }
+    // The pixels of both halves: they change with what is pressed.
+    std::string Look() {
+        Picture picture(100, 20);
+        Draw(picture, kSpinTypeId, Coloured("1"), 0, 1);
+        const int x = 100 - ::GetSystemMetrics(SM_CXVSCROLL);
+        std::string all;
+        for (const CRect &half : {CRect(x, 0, 100, 10), CRect(x, 10, 100, 20)})
+            all += std::to_string(picture.Count(::GetSysColor(COLOR_3DHILIGHT), half)) + "," +
+                   std::to_string(picture.Count(::GetSysColor(COLOR_BTNSHADOW), half)) + ";";
+        return all;
+    }
+};
+
+TEST_F(SpinTypeTest, TheEditLeavesTheButtonFree) {
+    CRect rect(0, 0, 100, 20);
+    Type(kSpinTypeId)->GetEditArea(&rect);
+    EXPECT_EQ(CRect(0, 0, 100 - ::GetSystemMetrics(SM_CXVSCROLL) - 1, 20), rect);
+}
+
+TEST_F(SpinTypeTest, TheUpperHalfTellsSixteenAndTheLowerSeventeenWithTheValue) {
+    EXPECT_TRUE(Repaints(1, 1, [&] { EXPECT_EQ(-2, Press(kSpinTypeId, 1, 1, Half(true))); }));
+    EXPECT_EQ("6.1.1.16=42", Told());
+    EXPECT_TRUE(Repaints(1, 1, [&] { EXPECT_EQ(-2, Release(kSpinTypeId, 1, 1, Half(true))); }));
+    EXPECT_EQ("", Told());
+    EXPECT_EQ(-2, Press(kSpinTypeId, 1, 1, Half(false)));
+    EXPECT_EQ("6.1.1.17=42", Told());
+    Release(kSpinTypeId, 1, 1, Half(false));
+}
+
+TEST_F(SpinTypeTest, ThePressedHalfLooksPressedUntilTheRelease) {
+    const std::string idle = Look();
+    Press(kSpinTypeId, 1, 1, Half(true));
+    const std::string upper = Look();
+    Release(kSpinTypeId, 1, 1, Half(true));
+    EXPECT_EQ(idle, Look());
+    Press(kSpinTypeId, 1, 1, Half(false));
+    const std::string lower = Look();
+    EXPECT_NE(idle, upper);
+    EXPECT_NE(idle, lower);
+    EXPECT_NE(upper, lower);
+}
+
+TEST_F(SpinTypeTest, AClickBesideTheButtonIsNotItsMatter) {
+    EXPECT_EQ(-1, Press(kSpinTypeId, 1, 1, RectOf(1, 1).TopLeft()));
+    EXPECT_EQ(-1, DoubleClick(kSpinTypeId, 1, 1, RectOf(1, 1).TopLeft()));
+    EXPECT_EQ(-1, Release(kSpinTypeId, 1, 1, RectOf(1, 1).TopLeft()));
+    EXPECT_EQ("", Told());
+}
+
+TEST_F(SpinTypeTest, ADoubleClickRepeatsTheClick) {
+    EXPECT_EQ(-2, DoubleClick(kSpinTypeId, 1, 1, Half(false)));
+    EXPECT_EQ("6.1.1.17=42", Told());
+}
+
+TEST_F(SpinTypeTest, LeavingThePressedHalfUnpressesItAndComingBackPressesIt) {
+    const std::string idle = Look();
+    Press(kSpinTypeId, 1, 1, Half(true));
+    const std::string pressed = Look();
+    EXPECT_EQ(-2, Move(kSpinTypeId, Half(true)));
+    EXPECT_TRUE(Repaints(1, 1, [&] { EXPECT_EQ(0, Move(kSpinTypeId, Half(false))); }));
+    EXPECT_EQ(idle, Look());
+    CPoint back = Half(true);
+    EXPECT_EQ(-2, static_cast<CUGSpinButtonType *>(Type(kSpinTypeId))->OnMouseMoveSpin(&back));
+    EXPECT_EQ(pressed, Look());
+    EXPECT_EQ(-2, Release(kSpinTypeId, 1, 1, back));
+}
+
+TEST_F(SpinTypeTest, LeavingTheCellReleasesTheButton) {
+    const std::string idle = Look();
+    Press(kSpinTypeId, 1, 1, Half(true));
+    m_grid.GotoCell(0, 0);
+    EXPECT_EQ(idle, Look());
+    EXPECT_EQ(0, Move(kSpinTypeId, Half(true)));
+}
+
+class CheckBoxTypeTest : public CellTypesTest {
+protected:
+    void SetUp() override { Put(1, 1, kCheckBoxTypeId, "0"); }
+    CPoint Box() { return CPoint(RectOf(1, 1).left + 8, RectOf(1, 1).CenterPoint().y); }
+    std::string Text() { return m_grid.Text(1, 1); }
+};
+
+TEST_F(CheckBoxTypeTest, AClickIntoTheBoxToggles) {
+    EXPECT_TRUE(Repaints(1, 1, [&] { EXPECT_EQ(-2, Press(kCheckBoxTypeId, 1, 1, Box())); }));
+    EXPECT_EQ("1.00", Text());
+    EXPECT_EQ(-1, Release(kCheckBoxTypeId, 1, 1, Box()));
+    EXPECT_EQ("1.00", Text());
+    EXPECT_EQ(-2, DoubleClick(kCheckBoxTypeId, 1, 1, Box()));
+    EXPECT_EQ("0.00", Text());
+}
+
+TEST_F(CheckBoxTypeTest, AClickBesideTheBoxDoesNothing) {
+    EXPECT_EQ(-1, Press(kCheckBoxTypeId, 1, 1, RectOf(1, 1).CenterPoint()));
+    EXPECT_EQ(-1, Press(kCheckBoxTypeId, 1, 1, RectOf(1, 1).TopLeft() + CSize(2, 10)));
+    EXPECT_EQ("0", Text());
+}
+
+TEST_F(CheckBoxTypeTest, SpaceTogglesTheCurrentCell) {
+    UINT space = VK_SPACE, other = 'A';
+    EXPECT_EQ(-2, Key(kCheckBoxTypeId, &space));
+    EXPECT_EQ("1.00", Text());
+    EXPECT_EQ(-1, Key(kCheckBoxTypeId, &other));
+    EXPECT_EQ("1.00", Text());
+    SendKey(m_grid.Cells(), VK_SPACE);
+    EXPECT_EQ("0.00", Text());
+}
+
+TEST_F(CheckBoxTypeTest, ATextOfTwoCountsAsCheckedAndTogglesToZero) {
+    Put(1, 1, kCheckBoxTypeId, "2");
+    Press(kCheckBoxTypeId, 1, 1, Box());
+    EXPECT_EQ("0.00", Text());
+}
+
+TEST_F(CheckBoxTypeTest, TheCellsDecimalsAreKept) {
+    CUGCell cell;
+    cell.SetCellType(kCheckBoxTypeId);
+    cell.SetNumberDecimals(0);
+    cell.SetNumber(0);
+    m_grid.SetCell(1, 1, &cell);
+    Press(kCheckBoxTypeId, 1, 1, Box());
+    EXPECT_EQ("1", Text());
+}
+
+TEST_F(CheckBoxTypeTest, TheBoxIsTwelvePixelsThreeFromTheLeftAndSmallerInALowCell) {
+    EXPECT_EQ(CRect(3, 4, 15, 16), CRect(CUGCheckBoxType::BoxRect(CRect(0, 0, 100, 20))));
+    EXPECT_EQ(CRect(3, 3, 15, 15), CRect(CUGCheckBoxType::BoxRect(CRect(0, 0, 100, 18))));
+    EXPECT_EQ(CRect(3, 3, 14, 14), CRect(CUGCheckBoxType::BoxRect(CRect(0, 0, 100, 17))));
+    EXPECT_EQ(CRect(3, 3, 9, 9), CRect(CUGCheckBoxType::BoxRect(CRect(0, 0, 100, 12))));
+    EXPECT_TRUE(CRect(CUGCheckBoxType::BoxRect(CRect(0, 0, 100, 11))).IsRectEmpty());
+}
+
+TEST_F(CheckBoxTypeTest, TheMarkShowsTheNumber) {
+    const CRect inner(6, 7, 12, 13);
+    Picture off(100, 20), on(100, 20), two(100, 20), filled(100, 20), low(100, 11);
+    Draw(off, kCheckBoxTypeId, Coloured("0"));
+    Draw(on, kCheckBoxTypeId, Coloured("1"));
+    Draw(two, kCheckBoxTypeId, Coloured("2"));
+    Draw(filled, kCheckBoxTypeId, Coloured("1", kCheckFilled));
+    Draw(low, kCheckBoxTypeId, Coloured("1"));
+    const COLORREF ink = ::GetSysColor(COLOR_WINDOWTEXT);
+    EXPECT_EQ(0, off.Count(ink, inner));
+    EXPECT_LT(5, on.Count(ink, inner));
+    EXPECT_EQ(on.Count(ink, inner), two.Count(ink, inner));
+    EXPECT_EQ(36, filled.Count(ink, inner));
+    EXPECT_EQ(0, low.Count(ink));
+    EXPECT_EQ(0, on.Count(kUnpainted));
+    EXPECT_LT(15, on.Bounds(kRed).left); // the text stands to the right of the box
+}
+
+TEST_F(CheckBoxTypeTest, TheStyleBitsChooseTheLookOfTheBox) {
+    std::string looks;
+    for (int style : {0, kCheckRecessed, kCheckRaised}) {
+        Picture picture(100, 20);
+        Draw(picture, kCheckBoxTypeId, Coloured("0", style));
+        const COLORREF edge = picture.At(3, 10);
+        looks += edge == ::GetSysColor(COLOR_WINDOWTEXT)    ? "flat "
+                 : edge == ::GetSysColor(COLOR_BTNSHADOW) ? "recessed "
+                                                          : "raised ";
+    }
+    EXPECT_EQ("flat recessed raised ", looks);
+}
+
+} // namespace
