@@ -55,5 +55,6 @@ CString CFileInformationDlg::Describe() const {
 BOOL CFileInformationDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     SetDlgItemText(IDC_INFORMATION, Describe());
-    return TRUE;
+    GetDlgItem(IDOK)->SetFocus(); // in the text the focus would select all of it
+    return FALSE;
 }
