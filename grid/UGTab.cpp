@@ -8,12 +8,12 @@
 IMPLEMENT_DYNAMIC(CUGTab, CWnd)
 
 BEGIN_MESSAGE_MAP(CUGTab, CWnd)
-    ON_WM_CREATE()
-    ON_WM_SIZE()
-    ON_WM_PAINT()
-    ON_WM_ERASEBKGND()
-    ON_WM_LBUTTONDOWN()
-    ON_WM_HSCROLL()
+ON_WM_CREATE()
+ON_WM_SIZE()
+ON_WM_PAINT()
+ON_WM_ERASEBKGND()
+ON_WM_LBUTTONDOWN()
+ON_WM_HSCROLL()
 END_MESSAGE_MAP()
 
 namespace {
@@ -47,7 +47,8 @@ HFONT CUGTab::Font() {
     if (m_font != nullptr)
         return m_font;
     if (m_ownFont.GetSafeHandle() == nullptr)
-        m_ownFont.CreateFont(kFontHeightPx, 0, 0, 0, kFontWeight, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "Arial");
+        m_ownFont.CreateFont(kFontHeightPx, 0, 0, 0, kFontWeight, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0,
+                             "Arial");
     return static_cast<HFONT>(m_ownFont.GetSafeHandle());
 }
 
@@ -175,5 +176,6 @@ void CUGTab::DrawTab(CDC *dc, int index, int height) {
         dc->FillSolidRect(corners[0].x + 1, 0, corners[1].x - corners[0].x - 1, 1, kCurrentBack);
     CRect text(corners[3].x, 0, corners[2].x, height);
     dc->SetBkMode(TRANSPARENT);
-    dc->DrawText(m_layout.Tabs()[index].text.c_str(), &text, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+    dc->DrawText(m_layout.Tabs()[index].text.c_str(), &text,
+                 DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
 }

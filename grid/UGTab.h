@@ -1,4 +1,5 @@
-// CUGTab: the bar of tabs at the left of the horizontal scroll bar. It is hidden while the control's tab width is 0.
+// CUGTab: the bar of tabs at the left of the horizontal scroll bar. It is hidden while the control's tab
+// width is 0.
 //
 // A click selects a tab, brings it fully into view and is told by OnTabSelected with the tab's id.
 #pragma once

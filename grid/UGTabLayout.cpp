@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr int kEndPx = 5;        // behind the last tab
-constexpr int kRoomLeftPx = 5;   // what stays free beside a tab that was brought into view
+constexpr int kEndPx = 5;      // behind the last tab
+constexpr int kRoomLeftPx = 5; // what stays free beside a tab that was brought into view
 constexpr int kRoomRightPx = 15;
 
 int WidthFor(int textWidth) {

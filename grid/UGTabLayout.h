@@ -41,7 +41,8 @@ public:
     void BringIntoView(int index);
 
     int LeftOf(int index) const;
-    // The four corners of a tab's shape, which tapers downwards, in a bar of this height: top left, top right, bottom right, bottom left.
+    // The four corners of a tab's shape, which tapers downwards, in a bar of this height: top left, top
+    // right, bottom right, bottom left.
     void Corners(int index, int height, POINT corners[4]) const;
     // The tab at this place; -1 for none.
     int HitTest(int x) const;

@@ -5,14 +5,15 @@
 IMPLEMENT_DYNAMIC(CGalleryFrame, CMDIChildWnd)
 
 BEGIN_MESSAGE_MAP(CGalleryFrame, CMDIChildWnd)
-    ON_WM_CREATE()
-    ON_WM_SIZE()
-    ON_WM_SETFOCUS()
+ON_WM_CREATE()
+ON_WM_SIZE()
+ON_WM_SETFOCUS()
 END_MESSAGE_MAP()
 
 void CGalleryFrame::Open(CWnd *frame) {
     const HWND client = static_cast<CMDIFrameWnd *>(frame)->m_hWndMDIClient;
-    for (HWND child = ::GetWindow(client, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = ::GetWindow(client, GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT)) {
         if (auto *open = DYNAMIC_DOWNCAST(CGalleryFrame, CWnd::FromHandlePermanent(child))) {
             open->MDIActivate();
             return;

@@ -1,5 +1,5 @@
-// CGalleryGrid: a grid over its own store with a sample of every cell type and of what a cell can look like. All
-// of it can be tried: cells are edited, buttons pressed, text dropped.
+// CGalleryGrid: a grid over its own store with a sample of every cell type and of what a cell can look like.
+// All of it can be tried: cells are edited, buttons pressed, text dropped.
 #pragma once
 
 #include "grid/UGCtrl.h"

@@ -245,7 +245,7 @@ TEST_F(CheckBoxTypeTest, TheStyleBitsChooseTheLookOfTheBox) {
         Picture picture(100, 20);
         Draw(picture, kCheckBoxTypeId, Coloured("0", style));
         const COLORREF edge = picture.At(3, 10);
-        looks += edge == ::GetSysColor(COLOR_WINDOWTEXT)    ? "flat "
+        looks += edge == ::GetSysColor(COLOR_WINDOWTEXT)  ? "flat "
                  : edge == ::GetSysColor(COLOR_BTNSHADOW) ? "recessed "
                                                           : "raised ";
     }

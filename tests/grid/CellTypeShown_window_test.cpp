@@ -1,4 +1,5 @@
-// The types that only show: progress bar, text as large as the cell, arrow; and what system colours do to types.
+// The types that only show: progress bar, text as large as the cell, arrow; and what system colours do to
+// types.
 #include "CellTypesTest.h"
 
 namespace {
@@ -99,9 +100,14 @@ TEST_F(CellTypesTest, TheArrowPointsWhereItsStyleSays) {
     for (int style : {CUGArrowType::kRight, CUGArrowType::kLeft, CUGArrowType::kUp, CUGArrowType::kDown}) {
         Picture picture(40, 40);
         Draw(picture, kArrowTypeId, Coloured("no text", style));
-        const int left = picture.Count(kRed, CRect(0, 0, 20, 40)), right = picture.Count(kRed, CRect(20, 0, 40, 40));
-        const int upper = picture.Count(kRed, CRect(0, 0, 40, 20)), lower = picture.Count(kRed, CRect(0, 20, 40, 40));
-        std::string points = left > right * 2 ? "right" : right > left * 2 ? "left" : upper > lower * 2 ? "down" : "up";
+        const int left = picture.Count(kRed, CRect(0, 0, 20, 40)),
+                  right = picture.Count(kRed, CRect(20, 0, 40, 40));
+        const int upper = picture.Count(kRed, CRect(0, 0, 40, 20)),
+                  lower = picture.Count(kRed, CRect(0, 20, 40, 40));
+        std::string points = left > right * 2    ? "right"
+                             : right > left * 2  ? "left"
+                             : upper > lower * 2 ? "down"
+                                                 : "up";
         const char *const names[] = {"right", "left", "up", "down"};
         EXPECT_EQ(names[style], points);
         EXPECT_LT(30, picture.Bounds(kRed).Width());

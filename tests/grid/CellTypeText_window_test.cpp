@@ -112,7 +112,7 @@ TEST_F(CellTypesTest, TheLabelIsDrawnWithItsStyleBitOrTheTypesFlag) {
 
 TEST_F(CellTypesTest, ANegativeStyleIsNoStyle) {
     Picture plain(kWide, kHigh), negative(kWide, kHigh);
-    CUGCell cell = Coloured("some longer text that does not fit in");
+    CUGCell cell = Coloured("some longer text that does not fit in", 0);
     Draw(plain, 0, cell);
     cell.SetCellTypeEx(-2);
     Draw(negative, 0, cell);
@@ -231,10 +231,10 @@ TEST_F(CellTypesTest, ABorderIsDrawnAndTakenOffTheRectangle) {
         CRect rest;
     };
     // One, two and three pixel lines in the order left, top, right, bottom.
-    const Case cases[] = {{0, {0, 0, 40, 30}},   {1, {1, 0, 40, 30}},    {2, {0, 1, 40, 30}},
-                          {4, {0, 0, 39, 30}},   {8, {0, 0, 40, 29}},    {16, {2, 0, 40, 30}},
-                          {32, {0, 2, 40, 30}},  {64, {0, 0, 38, 30}},   {128, {0, 0, 40, 28}},
-                          {256, {3, 0, 40, 30}}, {512, {0, 3, 40, 30}},  {1024, {0, 0, 37, 30}},
+    const Case cases[] = {{0, {0, 0, 40, 30}},    {1, {1, 0, 40, 30}},      {2, {0, 1, 40, 30}},
+                          {4, {0, 0, 39, 30}},    {8, {0, 0, 40, 29}},      {16, {2, 0, 40, 30}},
+                          {32, {0, 2, 40, 30}},   {64, {0, 0, 38, 30}},     {128, {0, 0, 40, 28}},
+                          {256, {3, 0, 40, 30}},  {512, {0, 3, 40, 30}},    {1024, {0, 0, 37, 30}},
                           {2048, {0, 0, 40, 27}}, {1 | 256, {3, 0, 40, 30}}};
     for (const Case &one : cases) {
         Picture picture(40, 30);

@@ -1,5 +1,5 @@
-// The fixture of the cell types' tests: a control over its own store that notes what the types tell, and pictures
-// to paint into.
+// The fixture of the cell types' tests: a control over its own store that notes what the types tell, and
+// pictures to paint into.
 #pragma once
 
 #include "RecordingGrid.h"
@@ -63,7 +63,9 @@ protected:
     int Press(int type, int col, long row, CPoint point) { return Click(type, col, row, 1, point); }
     int Release(int type, int col, long row, CPoint point) { return Click(type, col, row, 0, point); }
     int DoubleClick(int type, int col, long row, CPoint point);
-    int Move(int type, CPoint point, UINT flags = MK_LBUTTON) { return Type(type)->OnMouseMove(&point, flags); }
+    int Move(int type, CPoint point, UINT flags = MK_LBUTTON) {
+        return Type(type)->OnMouseMove(&point, flags);
+    }
     int Key(int type, UINT *key) { return Type(type)->OnKeyDown(key); }
     std::string Told() { return std::exchange(m_grid.m_told, ""); }
     void Draw(Picture &picture, int type, CUGCell cell, int selected = 0, int current = 0);

@@ -58,7 +58,9 @@ protected:
         m_grid.GetCellRect(col, row, &rect);
         return rect.CenterPoint();
     }
-    BOOL Drop(CPoint point) { return m_grid.Target().OnDrop(m_grid.CellArea(), &m_data, DROPEFFECT_COPY, point); }
+    BOOL Drop(CPoint point) {
+        return m_grid.Target().OnDrop(m_grid.CellArea(), &m_data, DROPEFFECT_COPY, point);
+    }
 
     HostWindow m_host;
     DropGrid m_grid;

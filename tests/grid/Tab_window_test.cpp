@@ -106,7 +106,8 @@ TEST_F(TabTest, ABarWithoutRoomForItsTabsScrolls) {
     const int before = ::GetScrollPos(Scroll(), SB_CTL);
     ::SendMessageA(m_grid.Tab(), WM_HSCROLL, SB_LINELEFT, reinterpret_cast<LPARAM>(Scroll()));
     EXPECT_EQ(before - 10, ::GetScrollPos(Scroll(), SB_CTL));
-    ::SendMessageA(m_grid.Tab(), WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 0), reinterpret_cast<LPARAM>(Scroll()));
+    ::SendMessageA(m_grid.Tab(), WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 0),
+                   reinterpret_cast<LPARAM>(Scroll()));
     ClickLeft(m_grid.Tab(), 62, 5); // the second tab, seen in part
     EXPECT_EQ("8 ", m_grid.m_selected);
     EXPECT_LT(0, ::GetScrollPos(Scroll(), SB_CTL));

@@ -120,6 +120,22 @@ class SessionTest(unittest.TestCase):
         host.await_end()
         self.assertEqual(before, bytes_of(self.path))
 
+    def test_gallery_opens_once_and_takes_edits(self):
+        host = self.open("staff.dbf", "staff.dbt")
+        host.keys("alt+h")
+        host.keys("g")
+        host.await_title("Orvane Tables - [Cell Type Gallery]")
+        host.type("typed")
+        host.keys("Return", "ctrl+F6")
+        host.await_table("staff.dbf")
+        host.keys("alt+h")
+        host.keys("g")
+        host.await_title("Orvane Tables - [Cell Type Gallery]")
+        host.keys("ctrl+F4")
+        host.await_table("staff.dbf")
+        host.keys("alt+F4")
+        host.await_end()
+
     def test_append_by_enter_on_the_last_record(self):
         host = self.open("cities.dbf")
         count = len(records(self.path))
