@@ -9,6 +9,11 @@ bool IsDown(int key) {
     return (::GetKeyState(key) & 0x8000) != 0;
 }
 
+// In the machine's code page: the runtime's own locale knows no letter beyond the first 127.
+bool IsPrintable(UINT key) {
+    return key < 256 && (std::isprint(static_cast<int>(key)) != 0 || ::IsCharAlphaNumericA(static_cast<CHAR>(key)));
+}
+
 constexpr UINT kNoKey = static_cast<UINT>(-1); // what a key becomes that must act no further
 
 } // namespace
@@ -57,7 +62,7 @@ void CEditorCore::OnCharDown(UINT *key, int processed) {
         TabInGrid(IsDown(VK_SHIFT));
         return;
     }
-    const bool fromKeyboard = *key == VK_BACK || (*key < 256 && std::isprint(static_cast<int>(*key)) != 0);
+    const bool fromKeyboard = *key == VK_BACK || IsPrintable(*key);
     if (*key == VK_DOWN || *key == VK_UP || !fromKeyboard || processed == 0)
         return;
     if (IsInMultipleSelection())

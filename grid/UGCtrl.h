@@ -186,7 +186,6 @@ public:
     int EnablePopupMenu(int enable);
     int EnableScrollHints(int vertical, int horizontal);
     int SetSuppressFinishOnFocusLoss(int suppress);
-    int SetMarginMoveType(int moveType);
     int Set3DBorderWidth(int width);
     int SetDoubleBuffer(int enable);
     CMenu *GetPopupMenu() { return &m_popupMenu; }
@@ -311,7 +310,6 @@ private:
     CUGDataSource *SourceOfColumn(int col, int *dataCol);
     int TranslatedColumn(int col);
     void ShowPopupMenu(int col, long row, int section, POINT screen);
-    void ScrollTo(bool vertical, UINT code);
     bool WrapEditCell(int *col, long *row);
     void DestroyEdit();
 

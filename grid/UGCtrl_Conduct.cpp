@@ -70,11 +70,6 @@ int CUGCtrl::SetSuppressFinishOnFocusLoss(int suppress) {
     return GRID_SUCCESS;
 }
 
-int CUGCtrl::SetMarginMoveType(int moveType) {
-    m_GI.m_moveType = moveType;
-    return GRID_SUCCESS;
-}
-
 int CUGCtrl::Set3DBorderWidth(int width) {
     if (width < 0)
         return GRID_ERROR;

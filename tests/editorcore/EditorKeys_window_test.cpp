@@ -112,6 +112,13 @@ TEST_F(EditorKeysTest, APrintableCharacterStartsTheEditWithItself) {
     EXPECT_EQ("q", WindowText(editor.Edit()));
 }
 
+TEST_F(EditorKeysTest, ALetterOfTheCodePageStartsTheEditToo) {
+    TestEditor &editor = Open(2, 2);
+    SendChar(editor.Cells(), 0xD6);
+    ASSERT_NE(nullptr, editor.Edit());
+    EXPECT_EQ("\xD6", WindowText(editor.Edit()));
+}
+
 TEST_F(EditorKeysTest, BackspaceStartsTheEditAndErases) {
     TestEditor &editor = Open(2, 2);
     SendChar(editor.Cells(), 8);
