@@ -53,6 +53,7 @@ private:
     struct Pass {
         CDC *dc;
         RECT clip;
+        bool simpleClip; // the clip is one rectangle: it alone tells what shows
         std::vector<std::pair<int, long>> joinsDrawn; // origins of the blocks that stand already
     };
     void DrawAll(CDC *dc, const RECT &clip);

@@ -10,7 +10,9 @@ void CUGGrid::DrawAll(CDC *dc, const RECT &clip) {
         oldFont = ::SelectObject(dc->GetSafeHdc(), m_GI->m_defaultFont);
     dc->SetBkMode(OPAQUE);
     m_ctrl->OnDrawSetup(dc, UG_SECTION_GRID);
-    Pass pass{dc, clip, {}};
+    RECT box;
+    const bool simple = ::GetClipBox(dc->GetSafeHdc(), &box) == SIMPLEREGION;
+    Pass pass{dc, clip, simple, {}};
     const CUGAxis &rows = m_GI->m_rows;
     int bottom = 0;
     long lastDrawn = -1;
@@ -47,7 +49,7 @@ void CUGGrid::DrawRow(Pass &pass, long row, int top, int bottom) {
         right += cols.SizeOf(col);
         const RECT rect = {left, top, right, bottom};
         if (right > left && right > pass.clip.left && left < pass.clip.right &&
-            ::RectVisible(pass.dc->GetSafeHdc(), &rect))
+            (pass.simpleClip || ::RectVisible(pass.dc->GetSafeHdc(), &rect)))
             DrawCell(pass, static_cast<int>(col), row, rect);
     }
 }

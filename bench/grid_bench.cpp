@@ -1,0 +1,162 @@
+// grid_bench: what the grid adds to the drawing itself.
+//
+// Workload: a window of 1560 x 990 pixels that shows just 45 rows of 15 columns of a virtual source (its texts are made
+// on demand), repainted whole. Beside it the same texts, drawn straight into the window's device context by the
+// same device calls from strings that were made before: measured, placed, opaque and clipped to the cell, with
+// the two grid lines of each cell. The two are timed in turn, so that their ratio is of one run.
+// Also: one line scrolled, as a share of the full repaint. Medians with minimum and maximum.
+#include "bench/EditorBench.h"
+
+#include "grid/UGCtrl.h"
+#include "grid/UGDrawRules.h"
+
+#include <cstdio>
+#include <string>
+
+namespace {
+
+constexpr int kRuns = 101;
+constexpr int kRows = 45, kCols = 15;
+constexpr int kRowHeightPx = 22, kColWidthPx = 104;
+constexpr long kTableRows = 1000000;
+constexpr int kCellAreaId = 1; // of the control's child windows
+
+class CVirtualSource final : public CUGDataSource {
+public:
+    long GetNumRows() override { return kTableRows; }
+    int GetNumCols() override { return kCols; }
+    int GetCell(int col, long row, CUGCell *cell) override {
+        ++m_reads;
+        char text[32];
+        std::snprintf(text, sizeof text, "record %ld.%d", row, col);
+        return cell->SetText(text);
+    }
+    long m_reads = 0;
+};
+
+class CBenchFrame : public CFrameWnd {
+public:
+    // Room for the cells, and for the bar at the right that the table's length calls for.
+    CBenchFrame() {
+        const int width = kCols * kColWidthPx + ::GetSystemMetrics(SM_CXVSCROLL);
+        Create(nullptr, "Bench", WS_POPUP | WS_VISIBLE, CRect(0, 0, width, kRows * kRowHeightPx));
+    }
+};
+
+void ShowTable(CUGCtrl &grid, CVirtualSource &source) {
+    const int index = grid.AddDataSource(&source);
+    grid.SetDefaultDataSource(index);
+    grid.SetUniformRowHeight(1);
+    grid.SetDefaultRowHeight(kRowHeightPx);
+    grid.SetNumberCols(kCols, 0);
+    grid.SetNumberRows(kTableRows, 0);
+    for (int col = 0; col < kCols; ++col)
+        grid.SetColWidth(col, kColWidthPx);
+}
+
+std::vector<std::string> TextsOf(CVirtualSource &source) {
+    std::vector<std::string> texts;
+    CUGCell cell;
+    for (long row = 0; row < kRows; ++row) {
+        for (int col = 0; col < kCols; ++col) {
+            source.GetCell(col, row, &cell);
+            texts.emplace_back(cell.GetText());
+        }
+    }
+    return texts;
+}
+
+void DrawText(HDC dc, RECT cell, const std::string &text) {
+    const int length = static_cast<int>(text.size());
+    ::SetTextColor(dc, ::GetSysColor(COLOR_WINDOWTEXT));
+    ::SetBkColor(dc, ::GetSysColor(COLOR_WINDOW));
+    SIZE extent;
+    ::GetTextExtentPoint32A(dc, text.c_str(), length, &extent);
+    const UGTextPlace place = UGPlaceText(cell, 0, extent.cy);
+    ::SetTextAlign(dc, TA_LEFT | TA_TOP);
+    ::ExtTextOutA(dc, place.x, place.y, ETO_OPAQUE | ETO_CLIPPED, &cell, text.c_str(), length, nullptr);
+}
+
+void DrawLines(HDC dc, const RECT &cell) {
+    const HGDIOBJ old = ::SelectObject(dc, ::GetStockObject(BLACK_PEN));
+    ::MoveToEx(dc, cell.right - 1, cell.top, nullptr);
+    ::LineTo(dc, cell.right - 1, cell.bottom);
+    ::MoveToEx(dc, cell.left, cell.bottom - 1, nullptr);
+    ::LineTo(dc, cell.right, cell.bottom - 1);
+    ::SelectObject(dc, old);
+}
+
+void DrawDirectly(CWnd &window, const std::vector<std::string> &texts, bool lines) {
+    HDC dc = ::GetDC(window.m_hWnd);
+    for (int row = 0; row < kRows; ++row) {
+        for (int col = 0; col < kCols; ++col) {
+            RECT cell = {col * kColWidthPx, row * kRowHeightPx, (col + 1) * kColWidthPx, (row + 1) * kRowHeightPx};
+            if (lines)
+                DrawLines(dc, cell);
+            --cell.right;
+            --cell.bottom;
+            DrawText(dc, cell, texts[static_cast<size_t>(row * kCols + col)]);
+        }
+    }
+    ::ReleaseDC(window.m_hWnd, dc);
+    ::GdiFlush();
+}
+
+void RepaintGrid(CUGCtrl &grid) {
+    CWnd *cells = grid.GetDlgItem(kCellAreaId);
+    cells->Invalidate(FALSE);
+    cells->UpdateWindow();
+    ::GdiFlush();
+}
+
+void Measure(CUGCtrl &grid, CVirtualSource &source, CWnd &plain) {
+    const std::vector<std::string> texts = TextsOf(source);
+    std::vector<double> painted, direct, bare, scrolled;
+    for (int run = 0; run < kRuns; ++run) {
+        painted.push_back(CBenchTable::Milliseconds([&] { RepaintGrid(grid); }));
+        direct.push_back(CBenchTable::Milliseconds([&] { DrawDirectly(plain, texts, true); }));
+        bare.push_back(CBenchTable::Milliseconds([&] { DrawDirectly(plain, texts, false); }));
+    }
+    for (int run = 0; run < kRuns; ++run) {
+        scrolled.push_back(CBenchTable::Milliseconds([&] {
+            grid.MoveTopRow(UG_MOVE_FORWARD);
+            ::GdiFlush();
+        }));
+    }
+    CBenchTable table;
+    table.Add("full repaint, 45 x 15 cells", "ms", painted);
+    table.Add("the same texts and lines, drawn directly", "ms", direct);
+    table.Add("the same texts alone, drawn directly", "ms", bare);
+    table.Add("one line scrolled", "ms", scrolled);
+    const double full = CBenchTable::Median(painted);
+    std::printf("full repaint to direct drawing, ratio of medians %.2f (texts alone %.2f)\n",
+                full / CBenchTable::Median(direct), full / CBenchTable::Median(bare));
+    source.m_reads = 0;
+    RepaintGrid(grid);
+    std::printf("source reads of a full repaint %ld", source.m_reads);
+    source.m_reads = 0;
+    grid.MoveTopRow(UG_MOVE_FORWARD);
+    std::printf(", of one line scrolled %ld (side heading included)\n", source.m_reads);
+}
+
+} // namespace
+
+int main() {
+    CWinApp app("grid_bench");
+    AfxWinInit(::GetModuleHandleA(nullptr), nullptr, const_cast<char *>(""), SW_SHOW);
+    auto *frame = new CBenchFrame;
+    CVirtualSource source;
+    CRect client;
+    frame->GetClientRect(&client);
+    CUGCtrl grid;
+    grid.CreateGrid(WS_VISIBLE, client, frame, 100);
+    ShowTable(grid, source);
+    grid.SetTH_Height(0);
+    grid.SetSH_Width(0);
+    grid.RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    auto *plain = new CBenchFrame;
+    Measure(grid, source, *plain);
+    plain->DestroyWindow();
+    frame->DestroyWindow();
+    return 0;
+}
