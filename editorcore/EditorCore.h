@@ -13,7 +13,11 @@
 #include "editorcore/EditorLayout.h"
 #include "editorcore/OrvaneCtrlInterfaceLayer.h"
 #include "editorcore/ResourceScope.h"
+#include "editorcore/ViewCommands.h"
 
+#include <memory>
+
+class COrvaneValidatingCellType;
 class CView;
 
 // Edit modes.
@@ -87,15 +91,35 @@ public:
     bool IsOperationsValid();
     int GetTotalDataSrcFields();
     void SetEditorCoreOptions(int undoLevels, int maxDisplayColWidth, bool enterKeyIsTab);
-    void GetColName(int gridCol, CString &name);
-    int GetDataSrcField(int gridCol) const;
-    int GetGridField(int field) const;
     void SetCellType(const char *fieldName, int id) {
         if (m_pColCellTypes != nullptr)
             m_pColCellTypes->SetCellType(fieldName, id);
     }
     // In screen coordinates.
     void GetCurCellRect(CRect *rect);
+
+    // --- The view of the columns. Three numberings meet: the grid column on screen, the field of the source, and
+    // the position of a field in the full ordering, hidden fields included.
+    int GetDataSrcField(int gridCol) const; // -1 at or past the end
+    int GetGridField(int field) const;      // first grid column that shows the field; -1 when hidden
+    bool GetDisplayCols(CUIntArray &fields);
+    void GetVirtualColPostions(CUIntArray &positions);
+    // Every field in position order: its name, and whether it is shown.
+    void GetVirtualColInfo(CStringArray &names, CArray<bool, bool> &shown);
+    void GetDisplayColNames(CStringArray &names);
+    void GetColName(int gridCol, CString &name);
+    // By name, ignoring case. A name that no field has counts as hidden; false with no source.
+    bool IsFieldHidden(const char *name);
+    bool CanHideCols();
+    int GetColumnCellType(int gridCol);
+    // These four rebuild the grid's columns. When memory runs out they say so and the view stays as it was.
+    void DisplayCols(const CUIntArray &fields);
+    void ReOrderCols(const CUIntArray &fields); // the layout's order too; for the host's field dialog
+    void HideCols(const CUIntArray &gridCols);
+    void UnHideCols(const CUIntArray &gridCols, const CUIntArray &fields);
+    void ResetFieldsOrder();
+    void OnReorderCols();
+    virtual void OnColReorder();
 
     // --- Cells and the edit in progress
     bool IsInEditMode() { return GetEditControl() != nullptr; }
@@ -117,13 +141,69 @@ public:
     int RemoveCellType(long id);
 
     // --- Commands
+    void OnHideCols();
+    void OnUnHideCols();
+    // `order` holds field names; null asks the host. A name that no field has shows field 0 in its place.
+    void OnOrderCols(CStringArray *order);
     void OnAppendRow(int col);
-    void OnCut(bool toClipboard);
+    void OnInsertRows();
+    void OnDeleteRows(bool toClipboard);
+    void OnCut(bool toClipboard); // blanks the cells; whole rows are deleted
+    void OnCopy();
+    void OnPaste();
+    bool CanCut();
+    bool CanCopy();
+    bool CanPaste();
+    // Insert before `row`, or append when it is the source's row count. True when it was done.
+    bool ExecInsertRows(long row, long count, bool waitCursor);
+    bool ExecDeleteRows(long firstRow, long lastRow);
     void Undo();
     void Redo();
     bool CanUndo();
     bool CanRedo();
     void EmptyUndoList();
+    // Asks how to go on before an operation that would store very much undo data: IDYES empties the history and
+    // stores none, IDNO stores it, IDCANCEL stops. IDYES at once without undo depth.
+    int DisplayNoUndoMessage();
+
+    // --- The clipboard: text, cells apart by TAB and rows by CR LF. Results are 0 for done and 1 for not.
+    // The texts of the selected cells, row by row. False when memory or the user stopped it; the text is partial
+    // then. The third argument is not read.
+    bool CreateSelectedString(CString &out, int clearCells, bool unused);
+    int CopySelected(int clearCells);
+    int CopySelected() { return CopySelected(0); }
+    int CutSelected() { return CopySelected(1); }
+    int CopyToClipBoard(CString *text);
+    int CopyFromClipBoard(CString *text);
+    int Paste();
+    int Paste(CString &text); // its top left corner lands on the current cell
+
+    // --- Sizing. Called when the grid has already changed; pixels.
+    void OnChangeColWidth(int col, int oldWidth, int newWidth);
+    void OnChangeRowHeight(long row, int oldHeight, int newHeight);
+    void OnResizeHeadings(int oldSide, int newSide, int oldTop, int newTop);
+    void OnChangeMultColWidths(int startCol, int endCol, const CArray<int, int> &oldWidths,
+                               const CArray<int, int> &newWidths);
+
+    // --- What the commands of the history do; all answer true.
+    using SizingCommand = CSizingCommand<CEditorCore>;
+    using HeadingsCommand = CHeadingsSizingCommand<CEditorCore>;
+    using MultiSizingCommand = CMultiSizingCommand<CEditorCore>;
+    using ReorderCommand = CReorderColsCommand<CEditorCore>;
+    bool ExecChangeColWidth(SizingCommand *command);
+    bool UnExecChangeColWidth(SizingCommand *command);
+    bool ExecChangeRowHeight(SizingCommand *command);
+    bool UnExecChangeRowHeight(SizingCommand *command);
+    bool ExecResizeHeadings(HeadingsCommand *command);
+    bool UnExecResizeHeadings(HeadingsCommand *command);
+    bool ExecChangeMultColWidths(MultiSizingCommand *command);
+    bool UnExecChangeMultColWidths(MultiSizingCommand *command);
+    bool ExecOrderCols(ReorderCommand *command);
+    bool UnExecOrderCols(ReorderCommand *command);
+    bool ExecHideCols(ReorderCommand *command);
+    bool UnExecHideCols(ReorderCommand *command);
+    bool ExecUnHideCols(ReorderCommand *command);
+    bool UnExecUnHideCols(ReorderCommand *command);
 
     // --- Notifications of the grid
     void OnSetup() override;
@@ -145,16 +225,28 @@ public:
     int OnSideHdgSizing(int *size) override;
     void OnColSized(int col, int *width) override;
     void OnRowSized(long row, int *height) override;
+    virtual int OnTopHdgSized(int *height);
+    void OnTH_LClicked(int col, int updn) override;
+    void OnTH_DClicked(int col) override;
+    void OnSH_LClicked(long row, int updn) override;
+    void OnCB_LClicked(int updn) override;
 
 protected:
     DECLARE_MESSAGE_MAP()
     afx_msg void OnDestroy();
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
 
     // True when a stored layout for the table is at hand. Reading makes the layout file where there is none.
     bool Serialize(bool store);
     void Serialize(CArchive &ar) override;
     void SetGridLayout();
     bool AbortOperation();
+    // Whole columns or rows, and the mode that goes with them.
+    void SelectColumns(int firstCol, int lastCol);
+    void SelectRows(long firstRow, long lastRow);
+    // Cells across the first line and rows of the text on the clipboard; a line break at the end counts a row.
+    bool GetClipBoardDataInfo(int *cols, long *rows);
 
     static CVAppInterface *ms_pAppInterface;
     static bool ms_bInitCalled;
@@ -206,6 +298,42 @@ private:
     long RowsOfSource(CUGDataSource *source) const;
     long LastRowIndex();
     bool SaveUnderNewPath(CUGDataSource *source, const CString &newPath, const CString &options);
+    template <class Change> bool ChangeView(Change change);
+    void ShowFields(const CUIntArray &fields);
+    void ShowOrder(const CUIntArray &fields);
+    void ShowWithout(const CUIntArray &gridCols);
+    void ShowWith(const CUIntArray &gridCols, const CUIntArray &fields);
+    bool CollectSelectedCols(CUIntArray &cols);
+    void FieldsOfNames(const CStringArray &names, CUIntArray &fields);
+    void KeepCommand(std::unique_ptr<CCommand> command);
+    template <class Make> void RecordSizing(Make make);
+    void SetColWidths(const MultiSizingCommand &command, const CArray<int, int> &widths);
+    void SetHeadings(int sideWidth, int topHeight);
+    int HeadingCharWidth();
+    bool IsValidatingColumn(int col);
+    int FittedWidth(int col);
+    bool FitOneColumn(int col, int rows, int charWidth);
+    bool FitColumnsOfSelection(int first, int last, int col, int rows, int charWidth);
+    COrvaneValidatingCellType *ValidatingType(int id);
+    bool AppendRows(CUGDataSource *source, long count);
+    bool RemoveRows(CUGDataSource *source, long firstRow, long count, long rowsBefore);
+    bool SaveRowsToClipboard(long firstRow, long lastRow);
+    bool AskForRecords(const char *title, const char *prompt, long *count);
+    void ShowRowsOfSource();
+    bool StopRequested();
+    long EstimateSelectedText();
+    void AppendSelectedTexts(CString &out, bool clearCells, bool *stopped);
+    void BlankCells(int left, long top, int right, long bottom);
+    struct PasteBlock;
+    bool PlacePaste(PasteBlock *block);
+    bool MakeRoomForPaste(CUGDataSource *source, const PasteBlock &block);
+    bool AddMissingRecords(CUGDataSource *source, const PasteBlock &block);
+    void HeadingSelectionKey(UINT *key, bool shift, bool control);
+    void ExtendHeadingSelection(int step);
+    void DoAutoScroll(POINT point);
+    void AutoScrollRows(int y, int height);
+    bool AutoScrollCols(int x, int width);
+    void SelectToCurrent();
     void BuildDefaultLayout(bool setTranslations);
     void SetGridInitColWidths();
     int HeadingMinimumWidth(int col, int maxCharWidth);

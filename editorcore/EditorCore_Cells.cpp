@@ -1,5 +1,6 @@
 // Cell texts, columns and fields, read-only cells, and ids of cell types.
 #include "editorcore/EditorCore.h"
+#include "lookup/ValidatingCellType.h"
 
 bool CEditorCore::GetCellText(int col, long row, CString *text) {
     CEdit *edit = GetEditControl();
@@ -18,12 +19,31 @@ bool CEditorCore::GetDataSrcCellText(int col, long row, CString *text) {
     return GetCellText(GetDataColNumber(col), row, text);
 }
 
-int CEditorCore::QuickSetText(int col, long row, const char *text) {
-    return CUGCtrl::QuickSetText(col, row, text);
+// Null unless the id is of a cell type that validates.
+COrvaneValidatingCellType *CEditorCore::ValidatingType(int id) {
+    return IsValidatingCell(id) ? dynamic_cast<COrvaneValidatingCellType *>(GetCellType(id)) : nullptr;
 }
 
+int CEditorCore::QuickSetText(int col, long row, const char *text) {
+    const int result = CUGCtrl::QuickSetText(col, row, text);
+    if (m_ValidatingCellTypes.GetSize() > 0) {
+        CUGCell cell;
+        GetCell(col, row, &cell);
+        if (COrvaneValidatingCellType *type = ValidatingType(cell.GetCellType()))
+            type->OnSetText(col, row, nullptr);
+    }
+    return result;
+}
+
+// A text that is invalid has been written by the time it is checked.
 int CEditorCore::SetDataSrcCell(CUGDataSource *source, CUGCell *cell, int field, long row) {
-    return source->SetCell(field, row, cell);
+    const int result = source->SetCell(field, row, cell);
+    CString name;
+    source->GetColName(field, &name);
+    COrvaneValidatingCellType *type = ValidatingType(m_pColCellTypes->GetCellType(name));
+    if (result == GRID_SUCCESS && type != nullptr && !type->IsTextValid(cell->GetText()))
+        type->DoInvalidCodeAction(field, row, cell->GetText(), true);
+    return result;
 }
 
 void CEditorCore::GetColName(int gridCol, CString &name) {

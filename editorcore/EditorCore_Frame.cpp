@@ -5,6 +5,8 @@ IMPLEMENT_DYNAMIC(CEditorCore, CUGOrvaneCtrlInterfaceLayer)
 
 BEGIN_MESSAGE_MAP(CEditorCore, CUGOrvaneCtrlInterfaceLayer)
     ON_WM_DESTROY()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
 END_MESSAGE_MAP()
 
 namespace {

@@ -1,5 +1,6 @@
 // Undo in three tiers, tried in a fixed order: the edit box, the history of the view, the source's data.
 #include "editorcore/EditorCore.h"
+#include "editorcore/RecordsDlg.h"
 
 namespace {
 
@@ -74,4 +75,11 @@ bool CEditorCore::AbortOperation() {
         return true;
     }
     return ms_pAppInterface->CheckAbort() != 0;
+}
+
+int CEditorCore::DisplayNoUndoMessage() {
+    if (m_pCommandList == nullptr || m_pCommandList->GetMaxCommands() < 1)
+        return IDYES;
+    CResourceScope resources;
+    return static_cast<int>(CLargeUndoOptionDlg(this).DoModal());
 }

@@ -18,16 +18,6 @@ constexpr UINT kNoKey = static_cast<UINT>(-1); // what a key becomes that must a
 
 } // namespace
 
-void CEditorCore::CancelSelectionMode(bool clear) {
-    m_nSelectAnchorCol = m_nSelectAnchorRow = -1;
-    if (clear) {
-        ClearSelections();
-        RedrawAll();
-        EnableMultiSelect(1);
-    }
-    m_nHeadingSelectMode = 0;
-}
-
 void CEditorCore::TabInGrid(bool shift) {
     const int col = GetCurrentCol();
     const int lastCol = GetNumberCols() - 1;
@@ -107,8 +97,12 @@ void CEditorCore::OnKeyDown(UINT *key, int) {
     }
     if (*key == VK_F6 || (control && *key == 'M'))
         ms_pAppInterface->OnGridHotKey();
-    if ((*key == VK_LEFT || *key == VK_RIGHT || *key == VK_UP || *key == VK_DOWN) && !IsInMultipleSelection() &&
-        m_nHeadingSelectMode == 0)
+    if (m_nHeadingSelectMode != 0) {
+        HeadingSelectionKey(key, shift, control);
+        if (*key == kNoKey)
+            return;
+    }
+    if ((*key == VK_LEFT || *key == VK_RIGHT || *key == VK_UP || *key == VK_DOWN) && !IsInMultipleSelection())
         EnableMultiSelect(1);
     if ((*key == VK_LEFT || *key == VK_RIGHT) && !shift) {
         // Left and right open the edit box where the cursor is, rather than moving.

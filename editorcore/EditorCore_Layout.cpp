@@ -5,7 +5,6 @@
 
 namespace {
 
-constexpr int kMeasuredRows = 100; // fitting must stay quick on very long tables
 constexpr int kDefaultRowHeightPx = 18;
 constexpr UINT kLayoutOpenFlags =
     CFile::modeCreate | CFile::modeNoTruncate | CFile::modeReadWrite | CFile::typeBinary;
@@ -92,32 +91,4 @@ void CEditorCore::BuildDefaultLayout(bool setTranslations) {
     }
     EnablePainting(1);
     m_pLayout->CaptureFromGrid();
-}
-
-int CEditorCore::HeadingMinimumWidth(int col, int maxCharWidth) {
-    CString heading;
-    GetColName(col, heading);
-    return std::max(heading.GetLength(), 1) * maxCharWidth;
-}
-
-void CEditorCore::SetGridInitColWidths() {
-    int maxCharWidth = 0;
-    if (CDC *dc = GetTopHeadingDC()) {
-        TEXTMETRICA metrics{};
-        ::GetTextMetricsA(dc->GetSafeHdc(), &metrics);
-        ReleaseTopHeadingDC(dc);
-        maxCharWidth = metrics.tmMaxCharWidth;
-    }
-    const int rows = static_cast<int>(std::min<long>(GetNumberRows(), kMeasuredRows));
-    for (int col = 0; col < GetNumberCols(); ++col) {
-        if (BestFit(col, col, rows) != GRID_SUCCESS)
-            return;
-        int width = 0;
-        GetColWidth(col, &width);
-        CUGCell cell;
-        GetCell(col, 0, &cell);
-        if (IsValidatingCell(cell.GetCellType()))
-            width += ::GetSystemMetrics(SM_CXVSCROLL); // room for the ellipsis button
-        SetColWidth(col, std::max(width, HeadingMinimumWidth(col, maxCharWidth)));
-    }
 }

@@ -117,6 +117,11 @@ void CEditorLayout::SetDisplayOrder(const CUIntArray &fields, int fieldCount) {
     }
 }
 
+void CEditorLayout::RestoreOrder(const CUIntArray &shown, const CUIntArray &positions) {
+    m_TableInfo.m_DisplayCols.Copy(shown);
+    m_TableInfo.m_ColPositions.Copy(positions);
+}
+
 void CEditorLayout::SyncToFieldCount(int count) {
     CUIntArray &positions = m_TableInfo.m_ColPositions;
     if (positions.GetSize() > count)

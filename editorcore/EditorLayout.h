@@ -39,6 +39,9 @@ public:
     int GetDataSrcField(int gridCol) const; // -1 at or past the end
     int GetGridField(int field) const;      // -1 when hidden
     bool IsFieldHidden(int field) const { return GetGridField(field) < 0; }
+    int CountDisplayCols() const { return static_cast<int>(m_TableInfo.m_DisplayCols.GetSize()); }
+    // Puts both orders back as they were taken before a change that failed.
+    void RestoreOrder(const CUIntArray &shown, const CUIntArray &positions);
     void RemoveDisplayCol(int gridCol);
     void InsertDisplayCol(int gridCol, int field);
     // Hidden fields keep their old positions while the shown ones move around them.

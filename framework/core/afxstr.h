@@ -54,6 +54,7 @@ public:
     const CString &operator+=(char character);
     void Append(LPCSTR text) { *this += text; }
     void Append(LPCSTR text, int length);
+    void SetString(LPCSTR text, int length) { Assign(text, length); }
     void AppendChar(char character) { *this += character; }
 
     int Compare(LPCSTR text) const;

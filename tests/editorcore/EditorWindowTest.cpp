@@ -11,6 +11,61 @@ std::string TestEditor::State() {
            ") size=" + std::to_string(GetNumberCols()) + "x" + std::to_string(CUGCtrl::GetNumberRows());
 }
 
+namespace {
+
+template <class Array> std::string Numbers(const Array &values) {
+    std::string all;
+    for (int i = 0; i < values.GetSize(); ++i)
+        all += (i > 0 ? "," : "") + std::to_string(values.GetAt(i));
+    return all;
+}
+
+} // namespace
+
+std::string TestEditor::Order() {
+    CUIntArray shown, positions;
+    GetDisplayCols(shown);
+    GetVirtualColPostions(positions);
+    std::string disagreement;
+    if (GetNumberCols() != shown.GetSize())
+        disagreement += " but the grid shows " + std::to_string(GetNumberCols());
+    for (int col = 0; col < shown.GetSize() && col < GetNumberCols(); ++col) {
+        CString heading;
+        GetColName(col, heading);
+        const int field = static_cast<int>(shown.GetAt(col));
+        if (GetDataColNumber(col) != field || heading != ("F" + std::to_string(field)).c_str())
+            disagreement += " but column " + std::to_string(col) + " shows " + heading.GetString();
+    }
+    return Numbers(shown) + " of " + Numbers(positions) + disagreement;
+}
+
+std::string TestEditor::Widths() {
+    CArray<int, int> widths;
+    for (int col = 0; col < GetNumberCols(); ++col) {
+        int width = 0;
+        GetColWidth(col, &width);
+        widths.Add(width);
+    }
+    return Numbers(widths);
+}
+
+std::string TestEditor::FieldWidths() {
+    CUIntArray widths;
+    m_pLayout->GetColWidths(widths);
+    return Numbers(widths);
+}
+
+std::string TestEditor::Selection() {
+    int left, right;
+    long top, bottom;
+    std::string all = "none";
+    if (GetCurrentSelection(&left, &top, &right, &bottom) == GRID_SUCCESS)
+        all = std::to_string(left) + "," + std::to_string(top) + ".." + std::to_string(right) + "," +
+              std::to_string(bottom);
+    return all + " mode=" + std::to_string(m_nHeadingSelectMode) + " anchor=(" + std::to_string(m_nSelectAnchorCol) +
+           "," + std::to_string(m_nSelectAnchorRow) + ")";
+}
+
 void TestEditor::OnLClicked(int col, long row, int updn, RECT *rect, POINT *point, int processed) {
     m_log->Note("Click(" + std::to_string(col) + "," + std::to_string(row) + ")");
     CEditorCore::OnLClicked(col, row, updn, rect, point, processed);

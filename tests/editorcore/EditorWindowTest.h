@@ -30,6 +30,19 @@ public:
     static int MaxDisplayColWidth() { return ms_nMaxDisplayColWidth; }
     static int Live() { return static_cast<int>(m_InstanceList.GetSize()); }
     std::string State();
+    // "0,2 of 0,1,2": the fields shown, as layout and grid agree on them, and every field in position order.
+    std::string Order();
+    // The grid's column widths; the layout's widths by field.
+    std::string Widths();
+    std::string FieldWidths();
+    // "0,0..2,1 mode=1 anchor=(0,-1)": the selection's rectangle, and the heading selection's.
+    std::string Selection();
+    HWND TopHeading() const { return m_topHdg.GetSafeHwnd(); }
+    HWND SideHeading() const { return m_sideHdg.GetSafeHwnd(); }
+    HWND Corner() const { return m_cornerBtn.GetSafeHwnd(); }
+    using CEditorCore::GetClipBoardDataInfo;
+    using CEditorCore::SelectColumns;
+    using CEditorCore::SelectRows;
 
     void SetCustomOptions() override { m_log->Note("CustomOptions"); }
     void SetTextAlignment() override { m_log->Note("TextAlignment"); }

@@ -56,8 +56,11 @@ public:
     CUGDataSource *CreateDataSource(const char *path) override;
     void ShowFileInformation(CUGDataSource *) override {}
     bool PromptSaveAs(CString &, bool *, bool) override { return false; }
-    bool PromptFieldOrder(CStringArray *) override { return false; }
-    void PromptFieldVisibility(CStringArray &, CArray<bool, bool> &) override {}
+    bool PromptFieldOrder(CStringArray *names) override { return m_onOrder && m_onOrder(names); }
+    void PromptFieldVisibility(CStringArray &names, CArray<bool, bool> &shown) override {
+        if (m_onVisibility)
+            m_onVisibility(names, shown);
+    }
     bool PromptXParms(CStringArray &, CStringArray &, CArray<bool, bool> &, CString, const char *,
                       CArray<CFieldStatus, CFieldStatus &> *, CString &,
                       CArray<CExecuteInfo *, CExecuteInfo *> &) override {
@@ -84,6 +87,8 @@ public:
     std::deque<CUGDataSource *> m_sources;
     int m_abort = 0;
     std::function<void(CEditorCore *)> m_onTitle;
+    std::function<bool(CStringArray *)> m_onOrder;
+    std::function<void(CStringArray &, CArray<bool, bool> &)> m_onVisibility;
 
 private:
     CallLog *m_log;

@@ -127,6 +127,36 @@ std::string SystemBoxAnswer::Seen() {
     return g_systemBox;
 }
 
+namespace {
+
+std::function<void(HWND)> g_dialogAct;
+
+void CALLBACK LookForDialog(HWND, UINT, UINT_PTR, DWORD) {
+    const HWND active = ::GetActiveWindow();
+    char className[16] = "";
+    if (active != nullptr)
+        ::GetClassNameA(active, className, sizeof className);
+    if (g_dialogAct && std::strcmp(className, "#32770") == 0)
+        std::exchange(g_dialogAct, nullptr)(active);
+}
+
+} // namespace
+
+WithDialog::WithDialog(std::function<void(HWND)> act) {
+    constexpr UINT kLookEveryMs = 5;
+    g_dialogAct = std::move(act);
+    m_timer = ::SetTimer(nullptr, 0, kLookEveryMs, LookForDialog);
+}
+
+WithDialog::~WithDialog() {
+    ::KillTimer(nullptr, m_timer);
+    g_dialogAct = nullptr;
+}
+
+bool WithDialog::Acted() const {
+    return !g_dialogAct;
+}
+
 void SendKey(HWND window, UINT key) {
     ::SendMessageA(window, WM_KEYDOWN, key, 1);
     // The window may be gone with the key, as an edit box is with Enter.

@@ -74,6 +74,19 @@ private:
     HHOOK m_hook;
 };
 
+// Does something with the next modal dialog, once it is up and its loop runs.
+class WithDialog {
+public:
+    explicit WithDialog(std::function<void(HWND)> act);
+    ~WithDialog();
+    WithDialog(const WithDialog &) = delete;
+    WithDialog &operator=(const WithDialog &) = delete;
+    bool Acted() const;
+
+private:
+    UINT_PTR m_timer;
+};
+
 // Sent synchronously. A key is its going down, its character when there is one, and its going up.
 void SendKey(HWND window, UINT key);
 void SendChar(HWND window, UINT character);

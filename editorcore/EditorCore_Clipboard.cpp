@@ -1,0 +1,273 @@
+// Cutting, copying, and the text of what is selected.
+#include "editorcore/ClipboardText.h"
+#include "editorcore/EditorCore.h"
+#include "editorcore/PaintingScope.h"
+
+#include <algorithm>
+#include <climits>
+
+namespace {
+
+constexpr long kWaitCursorCells = 50;   // more show the wait cursor
+constexpr long kCellsPerLook = 10000;   // between looks for a stop: a selection can span a whole table
+constexpr int kColumnsPlus = 1;         // what the estimate adds to a field's width
+constexpr int kRowPlus = 2;             // and to a row's
+
+bool HasEditSelection(CEdit *edit) {
+    DWORD start = 0, end = 0;
+    edit->SendMessage(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    return start != end;
+}
+
+// The clipboard held open for the length of a block.
+class OpenedClipboard {
+public:
+    explicit OpenedClipboard(HWND owner) : m_open(::OpenClipboard(owner) != FALSE) {}
+    ~OpenedClipboard() { Close(); }
+    OpenedClipboard(const OpenedClipboard &) = delete;
+    OpenedClipboard &operator=(const OpenedClipboard &) = delete;
+    explicit operator bool() const { return m_open; }
+    void Close() {
+        if (m_open)
+            ::CloseClipboard();
+        m_open = false;
+    }
+
+private:
+    bool m_open;
+};
+
+// The clipboard's text while the clipboard is open; null when it holds none.
+class ClipboardLock {
+public:
+    ClipboardLock()
+        : m_handle(::GetClipboardData(CF_TEXT)),
+          m_text(m_handle != nullptr ? static_cast<const char *>(::GlobalLock(m_handle)) : nullptr) {}
+    ~ClipboardLock() {
+        if (m_text != nullptr)
+            ::GlobalUnlock(m_handle);
+    }
+    ClipboardLock(const ClipboardLock &) = delete;
+    ClipboardLock &operator=(const ClipboardLock &) = delete;
+    const char *Text() const { return m_text; }
+
+private:
+    HGLOBAL m_handle;
+    const char *m_text;
+};
+
+} // namespace
+
+// True once when the user or a running check asked for an end.
+bool CEditorCore::StopRequested() {
+    return AbortOperation();
+}
+
+// --- The selection as text
+
+// Characters: the fields' widths, by the rows.
+long CEditorCore::EstimateSelectedText() {
+    int left, right;
+    long top, bottom;
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    if (source == nullptr || !IsInMultipleSelection() ||
+        GetCurrentSelection(&left, &top, &right, &bottom) != GRID_SUCCESS)
+        return 0;
+    long long row = kRowPlus;
+    for (int col = left; col <= right; ++col)
+        row += std::max(source->GetFieldWidth(GetDataColNumber(col)), 0) + kColumnsPlus;
+    const long long all = row * (bottom - top + 1);
+    if (all >= INT_MAX)
+        AfxThrowMemoryException(); // no string is as long
+    return static_cast<long>(all);
+}
+
+void CEditorCore::AppendSelectedTexts(CString &out, bool clearCells, bool *stopped) {
+    int col;
+    long row, lastRow = -1, count = 0;
+    CUGCell cell;
+    for (int more = EnumFirstSelected(&col, &row); more == GRID_SUCCESS; more = EnumNextSelected(&col, &row)) {
+        if (row < 0)
+            continue; // of an empty table's column the selection reaches into the heading
+        if (count % kCellsPerLook == 0 && StopRequested()) {
+            *stopped = true;
+            return;
+        }
+        if (count++ > 0)
+            out += row == lastRow ? "\t" : "\r\n";
+        lastRow = row;
+        if (GetCell(col, row, &cell) == GRID_SUCCESS)
+            out += cell.GetText();
+        if (clearCells) {
+            cell.ClearAll();
+            SetCell(col, row, &cell);
+        }
+    }
+}
+
+bool CEditorCore::CreateSelectedString(CString &out, int clearCells, bool) {
+    try {
+        out.Empty();
+        out.Preallocate(EstimateSelectedText());
+        bool stopped = false;
+        AppendSelectedTexts(out, clearCells != 0, &stopped);
+        if (stopped)
+            return false;
+        out.FreeExtra();
+        return true;
+    } catch (CMemoryException *e) {
+        e->Delete();
+        ReportOutOfMemory();
+        return false;
+    }
+}
+
+int CEditorCore::CopySelected(int clearCells) {
+    CString text;
+    CreateSelectedString(text, clearCells, false); // what was gathered goes, stopped or not
+    const int result = CopyToClipBoard(&text);
+    if (result == GRID_SUCCESS) {
+        ClearSelections();
+        RedrawAll();
+    }
+    return result;
+}
+
+// --- The clipboard
+
+// The memory is had before the clipboard is emptied: without it what was there stays.
+int CEditorCore::CopyToClipBoard(CString *text) {
+    OpenedClipboard clipboard(GetSafeHwnd());
+    if (!clipboard)
+        return GRID_ERROR;
+    const size_t bytes = static_cast<size_t>(text->GetLength()) + 1;
+    const HGLOBAL memory = ::GlobalAlloc(GHND | GMEM_DDESHARE, bytes);
+    void *block = memory != nullptr ? ::GlobalLock(memory) : nullptr;
+    if (block == nullptr) {
+        ::GlobalFree(memory);
+        return GRID_ERROR;
+    }
+    ::EmptyClipboard();
+    std::copy_n(static_cast<const char *>(*text), bytes, static_cast<char *>(block));
+    ::GlobalUnlock(memory);
+    if (::SetClipboardData(CF_TEXT, memory) != nullptr)
+        return GRID_SUCCESS; // the clipboard owns the memory now
+    ::GlobalFree(memory);
+    return GRID_ERROR;
+}
+
+int CEditorCore::CopyFromClipBoard(CString *text) {
+    OpenedClipboard clipboard(GetSafeHwnd());
+    if (!clipboard)
+        return GRID_ERROR;
+    const ClipboardLock data;
+    if (data.Text() == nullptr)
+        return GRID_ERROR;
+    *text = data.Text();
+    return GRID_SUCCESS;
+}
+
+bool CEditorCore::GetClipBoardDataInfo(int *cols, long *rows) {
+    OpenedClipboard clipboard(GetSafeHwnd());
+    if (!clipboard) {
+        AfxMessageBox("Could not open clipboard!", MB_ICONHAND, 0);
+        return false;
+    }
+    *cols = 1;
+    *rows = 1;
+    {
+        const ClipboardLock data;
+        if (data.Text() != nullptr) {
+            const ClipboardText::Size size = ClipboardText::Measure(data.Text());
+            *cols = size.cols;
+            *rows = size.rows;
+            return true;
+        }
+    }
+    AfxMessageBox("Could not get clipboard data!", MB_ICONHAND, 0);
+    return false;
+}
+
+// --- The user's commands
+
+void CEditorCore::BlankCells(int left, long top, int right, long bottom) {
+    for (long row = std::max(top, 0L); row <= bottom; ++row) {
+        for (int col = left; col <= right; ++col)
+            QuickSetText(col, row, "");
+    }
+}
+
+void CEditorCore::OnCut(bool toClipboard) {
+    constexpr int kWholeRows = 2;
+    if (IsGridReadOnly())
+        return;
+    if (m_nHeadingSelectMode == kWholeRows) {
+        OnDeleteRows(true);
+        return;
+    }
+    if (CEdit *edit = GetEditControl()) {
+        edit->SendMessage(WM_CUT, 0, 0);
+        NotifyEdited();
+        return;
+    }
+    int left, right;
+    long top, bottom;
+    if (GetCurrentSelection(&left, &top, &right, &bottom) != GRID_SUCCESS)
+        return;
+    const bool wait = (right - left + 1) * (bottom - top + 1) > kWaitCursorCells;
+    NotifyEdited();
+    if (wait)
+        ms_pAppInterface->DoWaitCursor(1);
+    StartTransaction();
+    try {
+        if (toClipboard)
+            CopySelected(1);
+        else
+            BlankCells(left, top, right, bottom);
+    } catch (CMemoryException *e) {
+        e->Delete();
+        ReportOutOfMemory();
+    }
+    EndTransaction();
+    RedrawCell(GetCurrentCol(), GetCurrentRow());
+    if (wait)
+        ms_pAppInterface->DoWaitCursor(-1);
+    NotifyEdited();
+    RedrawAll();
+}
+
+void CEditorCore::OnCopy() {
+    if (CEdit *edit = GetEditControl()) {
+        if (HasEditSelection(edit))
+            edit->SendMessage(WM_COPY, 0, 0);
+        return;
+    }
+    int left, right;
+    long top, bottom;
+    if (GetCurrentSelection(&left, &top, &right, &bottom) != GRID_SUCCESS)
+        return;
+    const bool wait = (right - left + 1) * (bottom - top + 1) > kWaitCursorCells;
+    if (wait)
+        ms_pAppInterface->DoWaitCursor(1);
+    {
+        CPaintingScope quiet(this);
+        CopySelected(0);
+        ClearSelections();
+        SelectRange(left, top, right, bottom); // the copy took the selection away
+    }
+    if (wait)
+        ms_pAppInterface->DoWaitCursor(-1);
+}
+
+bool CEditorCore::CanCut() {
+    return !IsGridReadOnly() && CanCopy();
+}
+
+bool CEditorCore::CanCopy() {
+    CEdit *edit = GetEditControl();
+    return edit == nullptr || HasEditSelection(edit);
+}
+
+bool CEditorCore::CanPaste() {
+    return !IsGridReadOnly() && ::IsClipboardFormatAvailable(CF_TEXT) != FALSE;
+}
