@@ -224,6 +224,7 @@ public:
     int OnTopHdgSizing(int *size) override;
     int OnSideHdgSizing(int *size) override;
     void OnColSized(int col, int *width) override;
+    void OnRowSizing(long row, int *height) override;
     void OnRowSized(long row, int *height) override;
     virtual int OnTopHdgSized(int *height);
     void OnTH_LClicked(int col, int updn) override;
@@ -292,7 +293,10 @@ private:
     void DeleteParts();
     static void MakeSharedFont(CFont **font, const LOGFONTA &description);
     void ApplyFonts(CFont *cell, CFont *heading, int maxCharWidth, int headingHeight);
-    CUGDataSource *OpenSource(const char *path, const char *table, const char *options);
+    std::unique_ptr<CUGDataSource> OpenSource(const char *path, const char *table, const char *options);
+    bool OpenTable(const char *path, const char *table, const char *options);
+    void ShowTable(const char *path, const char *table);
+    void AbandonLoad();
     void PumpDroppingClicks();
     void DropSource();
     long RowsOfSource(CUGDataSource *source) const;
@@ -315,8 +319,12 @@ private:
     bool FitOneColumn(int col, int rows, int charWidth);
     bool FitColumnsOfSelection(int first, int last, int col, int rows, int charWidth);
     COrvaneValidatingCellType *ValidatingType(int id);
+    template <class Work> bool ChangeRows(Work work);
+    void AppendRecord(int col);
     bool AppendRows(CUGDataSource *source, long count);
-    bool RemoveRows(CUGDataSource *source, long firstRow, long count, long rowsBefore);
+    bool InsertRecords(CUGDataSource *source, long row, long count, bool waitCursor);
+    bool DeleteRecords(CUGDataSource *source, long firstRow, long lastRow);
+    void DeleteChosenRows(long firstRow, long count, bool toClipboard);
     bool SaveRowsToClipboard(long firstRow, long lastRow);
     bool AskForRecords(const char *title, const char *prompt, long *count);
     void ShowRowsOfSource();

@@ -1,6 +1,7 @@
 // Cutting, copying, and the text of what is selected.
 #include "editorcore/ClipboardText.h"
 #include "editorcore/EditorCore.h"
+#include "editorcore/MemoryGuard.h"
 #include "editorcore/PaintingScope.h"
 
 #include <algorithm>
@@ -106,20 +107,17 @@ void CEditorCore::AppendSelectedTexts(CString &out, bool clearCells, bool *stopp
 }
 
 bool CEditorCore::CreateSelectedString(CString &out, int clearCells, bool) {
-    try {
+    bool stopped = false;
+    const bool inMemory = RunInMemory([&] {
         out.Empty();
         out.Preallocate(EstimateSelectedText());
-        bool stopped = false;
         AppendSelectedTexts(out, clearCells != 0, &stopped);
-        if (stopped)
-            return false;
-        out.FreeExtra();
-        return true;
-    } catch (CMemoryException *e) {
-        e->Delete();
+        if (!stopped)
+            out.FreeExtra();
+    });
+    if (!inMemory)
         ReportOutOfMemory();
-        return false;
-    }
+    return inMemory && !stopped;
 }
 
 int CEditorCore::CopySelected(int clearCells) {
@@ -219,15 +217,14 @@ void CEditorCore::OnCut(bool toClipboard) {
     if (wait)
         ms_pAppInterface->DoWaitCursor(1);
     StartTransaction();
-    try {
+    const bool inMemory = RunInMemory([&] {
         if (toClipboard)
             CopySelected(1);
         else
             BlankCells(left, top, right, bottom);
-    } catch (CMemoryException *e) {
-        e->Delete();
+    });
+    if (!inMemory)
         ReportOutOfMemory();
-    }
     EndTransaction();
     RedrawCell(GetCurrentCol(), GetCurrentRow());
     if (wait)

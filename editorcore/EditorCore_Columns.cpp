@@ -1,6 +1,7 @@
 // The view of the columns: which fields are shown, and in which order. It changes nothing in the data. The order
 // stands in the layout and, as column translations, in the grid; the two agree after every change.
 #include "editorcore/EditorCore.h"
+#include "editorcore/MemoryGuard.h"
 #include "editorcore/PaintingScope.h"
 
 #include <algorithm>
@@ -103,19 +104,18 @@ void CEditorCore::ShowFields(const CUIntArray &fields) {
 // Runs a change of the view. When memory runs out in it the view goes back to what it was, and false is answered.
 template <class Change> bool CEditorCore::ChangeView(Change change) {
     CUIntArray shown, positions;
-    try {
+    const bool changed = RunInMemory([&] {
         m_pLayout->GetDisplayCols(shown);
         m_pLayout->GetColPositions(positions);
         change();
+    });
+    if (changed)
         return true;
-    } catch (CMemoryException *e) {
-        e->Delete();
-    }
-    try {
-        m_pLayout->RestoreOrder(shown, positions);
-        ShowFields(shown);
-    } catch (CMemoryException *e) {
-        e->Delete(); // there is not even room for what there was room for before
+    if (positions.GetSize() > 0) {
+        RunInMemory([&] {
+            m_pLayout->RestoreOrder(shown, positions);
+            ShowFields(shown);
+        });
     }
     return false;
 }
@@ -224,24 +224,23 @@ void CEditorCore::OnUnHideCols() {
     std::unique_ptr<ReorderCommand> command;
     CStringArray names;
     CArray<bool, bool> shown;
-    try {
+    const bool ready = RunInMemory([&] {
         command = std::make_unique<ReorderCommand>(this, &CEditorCore::ExecOrderCols, &CEditorCore::UnExecOrderCols);
         GetDisplayCols(command->m_Before);
         GetVirtualColInfo(names, shown);
-    } catch (CMemoryException *e) {
-        e->Delete();
+    });
+    if (!ready) {
         ReportOutOfMemory();
         return;
     }
     ms_pAppInterface->PromptFieldVisibility(names, shown);
-    try {
+    const bool kept = RunInMemory([&] {
         GetDisplayCols(command->m_After);
         if (!SameOrder(command->m_Before, command->m_After))
             KeepCommand(std::move(command));
-    } catch (CMemoryException *e) {
-        e->Delete();
+    });
+    if (!kept)
         EmptyUndoList(); // what it holds is told in columns of a view that stands no more
-    }
     PostCommandsChanged();
 }
 
@@ -265,17 +264,16 @@ void CEditorCore::OnOrderCols(CStringArray *order) {
     CEditCommandGuard guard(this);
     std::unique_ptr<ReorderCommand> command;
     CStringArray names;
-    try {
+    const bool ready = RunInMemory([&] {
         command = std::make_unique<ReorderCommand>(this, &CEditorCore::ExecOrderCols, &CEditorCore::UnExecOrderCols);
         GetDisplayCols(command->m_Before);
         if (order != nullptr)
             names.Copy(*order);
         else
             GetDisplayColNames(names);
-    } catch (CMemoryException *e) {
-        e->Delete();
+    });
+    if (!ready)
         return;
-    }
     if (order == nullptr && !ms_pAppInterface->PromptFieldOrder(&names))
         return;
     const bool changed = ChangeView([&] {

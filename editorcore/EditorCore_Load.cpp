@@ -1,23 +1,23 @@
 // Opening a table and closing it.
 #include "editorcore/EditorCore.h"
+#include "editorcore/MemoryGuard.h"
 
 // A source that is open, or null: the source itself has said why.
-CUGDataSource *CEditorCore::OpenSource(const char *path, const char *table, const char *options) {
-    CUGDataSource *source = ms_pAppInterface->CreateDataSource(path);
+std::unique_ptr<CUGDataSource> CEditorCore::OpenSource(const char *path, const char *table, const char *options) {
+    std::unique_ptr<CUGDataSource> source(ms_pAppInterface->CreateDataSource(path));
     if (source == nullptr)
         return nullptr;
     if (m_bConstructFailed) {
         // The source is not deleted here: an editor without its parts opens nothing, and hosts count on the
         // object living on.
+        source.release();
         AfxMessageBox("Cannot load file due to low memory!", MB_ICONHAND, 0);
         return nullptr;
     }
     if (m_bDataSrcOpen)
         CloseDataSource(false);
-    if (m_bDataSrcOpen) {
-        delete source;
+    if (m_bDataSrcOpen)
         return nullptr;
-    }
     // No separators go between the pieces: options and table name carry their own blanks.
     CString openString(options);
     if (table != nullptr) {
@@ -26,29 +26,46 @@ CUGDataSource *CEditorCore::OpenSource(const char *path, const char *table, cons
     }
     if (m_nEditMode == kEditReadOnly)
         openString += "-view ";
-    if (source->Open(path, openString) != GRID_SUCCESS) {
-        delete source;
+    if (source->Open(path, openString) != GRID_SUCCESS)
         return nullptr;
-    }
     return source;
 }
 
 bool CEditorCore::LoadData(const char *path, const char *table, int editMode, const char *options) {
     m_nEditMode = editMode;
-    CUGDataSource *source = OpenSource(path, table, options);
+    bool opened = false;
+    const bool inMemory = RunInMemory([&] {
+        opened = OpenTable(path, table, options);
+        if (opened)
+            ShowTable(path, table);
+    });
+    if (inMemory)
+        return opened;
+    AbandonLoad();
+    AfxMessageBox("Cannot load file due to low memory!", MB_ICONHAND, 0);
+    return false;
+}
+
+bool CEditorCore::OpenTable(const char *path, const char *table, const char *options) {
+    std::unique_ptr<CUGDataSource> source = OpenSource(path, table, options);
     if (source == nullptr)
         return false;
-    m_bDataSrcOpen = true;
     int writable = 0, unused = 0;
     if (source->GetOption(UGSRC_WRITABLE, &writable, &unused) == GRID_SUCCESS && writable == 0)
         m_nEditMode = kEditReadOnly;
     SetCapture(); // the mouse stays with the grid while the table comes up
-    m_nDataSrcIndex = AddDataSource(source);
+    m_nDataSrcIndex = AddDataSource(source.get());
+    source.release();
+    m_bDataSrcOpen = true;
     SetDefaultDataSource(m_nDataSrcIndex);
+    return true;
+}
+
+void CEditorCore::ShowTable(const char *path, const char *table) {
+    m_bLayoutValid = false;
     m_strFilePath = path;
     m_strTableName = table;
     m_pLayout->SetTableName(m_strTableName);
-    m_bLayoutValid = false;
     SetGridLayout();
     EmptyUndoList();
     PumpDroppingClicks();
@@ -59,7 +76,21 @@ bool CEditorCore::LoadData(const char *path, const char *table, int editMode, co
     SetTextAlignment();
     SetFocus();
     PostCommandsChanged();
-    return true;
+}
+
+// Memory ran out while the table came up: back to an editor with nothing open.
+void CEditorCore::AbandonLoad() {
+    m_bLayoutValid = false; // what there is of a layout must not replace the one on disk
+    if (CWnd::GetCapture() == this)
+        ::ReleaseCapture();
+    if (!m_bDataSrcOpen)
+        return;
+    RunInMemory([this] {
+        CUGCtrl::SetNumberRows(0, 0);
+        SetNumberCols(0);
+    });
+    DropSource();
+    EnablePainting(1);
 }
 
 // Clicks made while the table was loading never reach the grid.

@@ -1,6 +1,7 @@
 // Pasting a block of text into the cells: what it may cover, the records that it needs, and the writing.
 #include "editorcore/ClipboardText.h"
 #include "editorcore/EditorCore.h"
+#include "editorcore/MemoryGuard.h"
 
 #include <algorithm>
 
@@ -127,15 +128,15 @@ void CEditorCore::OnPaste() {
         ms_pAppInterface->DoWaitCursor(1);
     OnEditNotify();
     StartTransaction();
-    bool room = false;
-    try {
+    bool room = true;
+    const bool inMemory = RunInMemory([&] {
         room = MakeRoomForPaste(source, block);
         if (room)
             Paste();
-    } catch (CMemoryException *e) {
-        e->Delete();
+    });
+    if (!inMemory) {
+        RunInMemory([this] { ShowRowsOfSource(); });
         ReportOutOfMemory();
-        room = true;
     }
     EndTransaction();
     RedrawAll();

@@ -1,7 +1,10 @@
 // Records that come and go. The source's row count and the grid's agree afterwards, but for the one placeholder row
 // of an open empty table. None of it is in the history of the view; the source undoes its own rows.
 #include "editorcore/EditorCore.h"
+#include "editorcore/MemoryGuard.h"
 #include "editorcore/RecordsDlg.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -15,10 +18,23 @@ void CEditorCore::ShowRowsOfSource() {
         CUGCtrl::SetNumberRows(RowsOfSource(source), 1);
 }
 
+// Work on the rows. When memory runs out in it that is said, the grid's rows follow what the source has by then, and
+// false is answered.
+template <class Work> bool CEditorCore::ChangeRows(Work work) {
+    if (RunInMemory(work))
+        return true;
+    RunInMemory([this] { ShowRowsOfSource(); });
+    ReportOutOfMemory();
+    return false;
+}
+
 void CEditorCore::OnAppendRow(int col) {
     CEditCommandGuard guard(this);
-    if (IsGridReadOnly())
-        return;
+    if (!IsGridReadOnly())
+        ChangeRows([&] { AppendRecord(col); });
+}
+
+void CEditorCore::AppendRecord(int col) {
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (source == nullptr || source->AppendRow() != GRID_SUCCESS)
         AfxMessageBox("Could not add record to data source!", MB_ICONHAND, 0);
@@ -37,7 +53,7 @@ void CEditorCore::OnAppendRow(int col) {
 bool CEditorCore::AskForRecords(const char *title, const char *prompt, long *count) {
     CResourceScope resources;
     CInsertRecordsDlg dialog(title, prompt, this);
-    if (dialog.DoModal() == IDCANCEL)
+    if (dialog.DoModal() != IDOK)
         return false;
     *count = dialog.m_nRecords;
     return true;
@@ -49,12 +65,14 @@ void CEditorCore::OnInsertRows() {
         AfxMessageBox("Cannot insert records!\nFile is open in read only mode!");
         return;
     }
-    long count;
-    if (!AskForRecords("Insert Records", "Number of records: ", &count))
-        return;
-    ExecInsertRows(GetCurrentRow(), count, true);
-    NotifyEdited();
-    PostCommandsChanged();
+    ChangeRows([&] {
+        long count;
+        if (!AskForRecords("Insert Records", "Number of records: ", &count))
+            return;
+        ExecInsertRows(GetCurrentRow(), count, true);
+        NotifyEdited();
+        PostCommandsChanged();
+    });
 }
 
 // What was appended before a failure stays; the grid learns of it at its next look at the source.
@@ -66,18 +84,17 @@ bool CEditorCore::AppendRows(CUGDataSource *source, long count) {
     return true;
 }
 
-bool CEditorCore::ExecInsertRows(long row, long count, bool waitCursor) {
-    CEditCommandGuard guard(this);
-    CUGDataSource *source = GetCurrentDataSrc(false);
-    if (source == nullptr)
-        return false;
-    if (waitCursor)
-        ms_pAppInterface->DoWaitCursor(1);
+bool CEditorCore::InsertRecords(CUGDataSource *source, long row, long count, bool waitCursor) {
     const long rowsBefore = GetNumberRows();
     const bool atEnd = row == source->GetNumRows();
-    const bool done = atEnd ? AppendRows(source, count) : source->InsertRows(row, count) == GRID_SUCCESS;
+    bool done = false;
+    const bool inMemory = RunInMemory([&] {
+        done = atEnd ? AppendRows(source, count) : source->InsertRows(row, count) == GRID_SUCCESS;
+    });
     if (waitCursor)
         ms_pAppInterface->DoWaitCursor(-1);
+    if (!inMemory)
+        AfxThrowMemoryException();
     if (!done) {
         AfxMessageBox(atEnd ? "Could not append data source record!" : "Could not insert records!", MB_ICONHAND, 0);
         return false;
@@ -88,6 +105,17 @@ bool CEditorCore::ExecInsertRows(long row, long count, bool waitCursor) {
     return true;
 }
 
+bool CEditorCore::ExecInsertRows(long row, long count, bool waitCursor) {
+    CEditCommandGuard guard(this);
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    if (source == nullptr)
+        return false;
+    if (waitCursor)
+        ms_pAppInterface->DoWaitCursor(1);
+    bool done = false;
+    return ChangeRows([&] { done = InsertRecords(source, row, count, waitCursor); }) && done;
+}
+
 // --- Deleting
 
 void CEditorCore::OnDeleteRows(bool toClipboard) {
@@ -96,25 +124,29 @@ void CEditorCore::OnDeleteRows(bool toClipboard) {
         AfxMessageBox("Cannot delete records!\nFile is open in read only mode!");
         return;
     }
-    int left, right;
-    long first, bottom, count;
-    if (GetCurrentSelection(&left, &first, &right, &bottom) == GRID_SUCCESS && bottom > first) {
-        count = bottom - first + 1; // the columns play no part: rows go whole
-    } else {
-        first = GetCurrentRow();
-        if (!AskForRecords("Delete Records", "Number of records", &count))
-            return;
-    }
-    if (first + count > GetNumberRows())
-        count = GetNumberRows() - first;
-    const long last = first + count - 1;
+    ChangeRows([&] {
+        int left, right;
+        long first, bottom, count;
+        if (GetCurrentSelection(&left, &first, &right, &bottom) == GRID_SUCCESS && bottom > first) {
+            count = bottom - first + 1; // the columns play no part: rows go whole
+        } else {
+            first = GetCurrentRow();
+            if (!AskForRecords("Delete Records", "Number of records", &count))
+                return;
+        }
+        DeleteChosenRows(first, std::min(count, GetNumberRows() - first), toClipboard);
+    });
+}
+
+void CEditorCore::DeleteChosenRows(long firstRow, long count, bool toClipboard) {
+    const long last = firstRow + count - 1;
     const bool wait = GetNumberCols() * count > kWaitCursorCells;
     if (wait)
         ms_pAppInterface->DoWaitCursor(1);
-    if (toClipboard && !SaveRowsToClipboard(first, last))
+    if (toClipboard && !SaveRowsToClipboard(firstRow, last))
         return; // the wait cursor stays raised: hosts put it right with a 0
     NotifyEdited();
-    ExecDeleteRows(first, last);
+    ExecDeleteRows(firstRow, last);
     if (wait)
         ms_pAppInterface->DoWaitCursor(-1);
     PostCommandsChanged();
@@ -137,6 +169,11 @@ bool CEditorCore::ExecDeleteRows(long firstRow, long lastRow) {
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (source == nullptr)
         return false;
+    bool done = false;
+    return ChangeRows([&] { done = DeleteRecords(source, firstRow, lastRow); }) && done;
+}
+
+bool CEditorCore::DeleteRecords(CUGDataSource *source, long firstRow, long lastRow) {
     ms_pAppInterface->DoWaitCursor(1);
     const long rowsBefore = GetNumberRows();
     const long count = lastRow - firstRow + 1;
@@ -144,8 +181,11 @@ bool CEditorCore::ExecDeleteRows(long firstRow, long lastRow) {
         AfxMessageBox("Could not remove rows from grid!", MB_ICONHAND, 0);
         return false; // the wait cursor stays raised: hosts put it right with a 0
     }
-    const int result = source->DeleteRows(firstRow, count);
+    int result = GRID_ERROR;
+    const bool inMemory = RunInMemory([&] { result = source->DeleteRows(firstRow, count); });
     ms_pAppInterface->DoWaitCursor(-1);
+    if (!inMemory)
+        AfxThrowMemoryException();
     if (result != GRID_SUCCESS) {
         AfxMessageBox("Could not delete records!", MB_ICONHAND, 0);
         SetNumberRows(rowsBefore, 1);

@@ -1,5 +1,6 @@
 // Sizing by mouse: the layout follows what the grid has already done, and the history keeps both sizes.
 #include "editorcore/EditorCore.h"
+#include "editorcore/MemoryGuard.h"
 
 #include <algorithm>
 
@@ -35,6 +36,11 @@ int CEditorCore::OnSideHdgSizing(int *size) {
     return OnTopHdgSizing(size);
 }
 
+// Rows of no height would take the whole table out of sight, all being of one height.
+void CEditorCore::OnRowSizing(long, int *height) {
+    *height = std::max(*height, 1);
+}
+
 // Column -1 is the corner: a heading was sized.
 void CEditorCore::OnColSized(int col, int *width) {
     if (m_pLayout == nullptr)
@@ -60,11 +66,7 @@ int CEditorCore::OnTopHdgSized(int *) {
 template <class Make> void CEditorCore::RecordSizing(Make make) {
     if (m_pCommandList->GetMaxCommands() < 1)
         return;
-    try {
-        KeepCommand(make());
-    } catch (CMemoryException *e) {
-        e->Delete();
-    }
+    RunInMemory([&] { KeepCommand(make()); });
 }
 
 void CEditorCore::OnChangeColWidth(int col, int oldWidth, int newWidth) {

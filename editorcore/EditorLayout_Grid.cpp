@@ -8,7 +8,8 @@ bool CEditorLayout::FitsSource(CUGDataSource *source) {
         return false;
     m_pEditor->SetTH_Height(m_TableInfo.m_nTopHeadingHeight);
     m_pEditor->SetSH_Width(m_TableInfo.m_nSideHeadingWidth);
-    m_pEditor->SetDefaultRowHeight(m_TableInfo.m_nRowHeight);
+    if (m_TableInfo.m_nRowHeight > 0) // a height of 0 would show no record at all
+        m_pEditor->SetDefaultRowHeight(m_TableInfo.m_nRowHeight);
     SyncToFieldCount(count);
     return count < 1 ||
            (m_TableInfo.m_ColPositions.GetSize() == count && m_TableInfo.m_ColWidths.GetSize() == count);
