@@ -224,16 +224,16 @@ void CEditorCore::OnUnHideCols() {
     std::unique_ptr<ReorderCommand> command;
     CStringArray names;
     CArray<bool, bool> shown;
-    const bool ready = RunInMemory([&] {
+    const bool asked = RunInMemory([&] {
         command = std::make_unique<ReorderCommand>(this, &CEditorCore::ExecOrderCols, &CEditorCore::UnExecOrderCols);
         GetDisplayCols(command->m_Before);
         GetVirtualColInfo(names, shown);
+        ms_pAppInterface->PromptFieldVisibility(names, shown);
     });
-    if (!ready) {
+    if (!asked) {
         ReportOutOfMemory();
         return;
     }
-    ms_pAppInterface->PromptFieldVisibility(names, shown);
     const bool kept = RunInMemory([&] {
         GetDisplayCols(command->m_After);
         if (!SameOrder(command->m_Before, command->m_After))
@@ -271,10 +271,10 @@ void CEditorCore::OnOrderCols(CStringArray *order) {
             names.Copy(*order);
         else
             GetDisplayColNames(names);
+        if (order == nullptr && !ms_pAppInterface->PromptFieldOrder(&names))
+            command.reset();
     });
-    if (!ready)
-        return;
-    if (order == nullptr && !ms_pAppInterface->PromptFieldOrder(&names))
+    if (!ready || command == nullptr)
         return;
     const bool changed = ChangeView([&] {
         FieldsOfNames(names, command->m_After);

@@ -86,6 +86,7 @@ void CEditorCore::AbandonLoad() {
     if (!m_bDataSrcOpen)
         return;
     RunInMemory([this] {
+        m_pLayout->Reset();
         CUGCtrl::SetNumberRows(0, 0);
         SetNumberCols(0);
     });

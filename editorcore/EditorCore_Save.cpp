@@ -1,5 +1,6 @@
 // Saving, saving under another name, and telling the host what is open.
 #include "editorcore/EditorCore.h"
+#include "editorcore/MemoryGuard.h"
 
 #include <mbstring.h>
 
@@ -68,7 +69,8 @@ void CEditorCore::UpdateTitle() {
     if (m_strFilePath.IsEmpty())
         return;
     const char *table = m_strTableName.IsEmpty() ? nullptr : static_cast<const char *>(m_strTableName);
-    ms_pAppInterface->SetEditorTitle(m_strFilePath, table, this);
+    // Without memory a title stays as it was: no reason to break off what led here.
+    RunInMemory([&] { ms_pAppInterface->SetEditorTitle(m_strFilePath, table, this); });
     if (CWnd *parent = GetParent())
         parent->PostMessage(kMsgTitleChanged,
                             reinterpret_cast<WPARAM>(static_cast<const char *>(m_strFilePath)),

@@ -38,8 +38,8 @@ void CDC::DeleteTempMap() {
 BOOL CDC::Attach(HDC dc) {
     if (!dc)
         return FALSE;
+    DcMap().SetPermanent(dc, this); // first: without memory for it the handle stays the caller's
     m_hDC = dc;
-    DcMap().SetPermanent(dc, this);
     SetAttribDC(dc);
     m_bPrinting = ::GetDeviceCaps(dc, TECHNOLOGY) == DT_RASPRINTER;
     return TRUE;
@@ -286,9 +286,24 @@ CBrush *CDC::GetHalftoneBrush() {
     return &brush;
 }
 
+namespace {
+
+// Attaches what was got for the window; when that fails `giveBack` returns it before the exception goes on.
+template <class GiveBack> void AttachOrGiveBack(CDC *dc, HDC handle, GiveBack giveBack) {
+    try {
+        if (!dc->Attach(handle))
+            AfxThrowResourceException();
+    } catch (CException *) {
+        if (handle)
+            giveBack(handle);
+        throw;
+    }
+}
+
+} // namespace
+
 CClientDC::CClientDC(CWnd *wnd) : m_hWnd(HandleOf(wnd)) {
-    if (!Attach(::GetDC(m_hWnd)))
-        AfxThrowResourceException();
+    AttachOrGiveBack(this, ::GetDC(m_hWnd), [this](HDC handle) { ::ReleaseDC(m_hWnd, handle); });
 }
 
 CClientDC::~CClientDC() {
@@ -296,8 +311,7 @@ CClientDC::~CClientDC() {
 }
 
 CWindowDC::CWindowDC(CWnd *wnd) : m_hWnd(HandleOf(wnd)) {
-    if (!Attach(::GetWindowDC(m_hWnd)))
-        AfxThrowResourceException();
+    AttachOrGiveBack(this, ::GetWindowDC(m_hWnd), [this](HDC handle) { ::ReleaseDC(m_hWnd, handle); });
 }
 
 CWindowDC::~CWindowDC() {
@@ -305,8 +319,7 @@ CWindowDC::~CWindowDC() {
 }
 
 CPaintDC::CPaintDC(CWnd *wnd) : m_hWnd(wnd->m_hWnd) {
-    if (!Attach(::BeginPaint(m_hWnd, &m_ps)))
-        AfxThrowResourceException();
+    AttachOrGiveBack(this, ::BeginPaint(m_hWnd, &m_ps), [this](HDC) { ::EndPaint(m_hWnd, &m_ps); });
 }
 
 CPaintDC::~CPaintDC() {

@@ -11,7 +11,7 @@
 // Shared by a test with the objects whose calls it wants in one order. It outlives them.
 struct CallLog {
     std::vector<std::string> m_calls;
-    void Note(const std::string &call) { m_calls.push_back(call); }
+    void Note(const std::string &call);
     // The calls since the last time, apart by blanks.
     std::string Take();
 };
