@@ -9,6 +9,8 @@ constexpr int kLowCellPx = 18; // in a lower cell the box shrinks
 constexpr int kLowMarginPx = 6;
 constexpr int kSmallestBoxPx = 6;
 constexpr int kLeftPx = 3;
+constexpr int kSmallMarkBoxPx = 10; // a smaller box leaves less room around its mark
+constexpr int kSmallestTickPx = 4;  // below that a tick is a blot: a square stands for it
 
 } // namespace
 
@@ -49,8 +51,9 @@ int CUGCheckBoxType::OnKeyDown(UINT *key) {
 
 void CUGCheckBoxType::DrawMark(CDC *dc, const RECT &box, bool filled) {
     RECT inner = box;
-    ::InflateRect(&inner, -3, -3);
-    if (filled) {
+    const int margin = box.right - box.left < kSmallMarkBoxPx ? 2 : 3;
+    ::InflateRect(&inner, -margin, -margin);
+    if (filled || inner.right - inner.left < kSmallestTickPx) {
         dc->FillSolidRect(&inner, ::GetSysColor(COLOR_WINDOWTEXT));
         return;
     }
@@ -77,11 +80,12 @@ void CUGCheckBoxType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, i
     if (box.right <= box.left)
         return;
     RECT frame = box;
-    dc->FillSolidRect(&frame, ::GetSysColor(COLOR_WINDOW));
     const int style = StyleOf(cell);
+    const bool raised = (style & kCheckRaised) && !(style & kCheckRecessed);
+    dc->FillSolidRect(&frame, ::GetSysColor(raised ? COLOR_BTNFACE : COLOR_WINDOW));
     if (style & kCheckRecessed)
         ::DrawEdge(dc->GetSafeHdc(), &frame, EDGE_SUNKEN, BF_RECT);
-    else if (style & kCheckRaised)
+    else if (raised)
         ::DrawEdge(dc->GetSafeHdc(), &frame, EDGE_RAISED, BF_RECT);
     else
         ::FrameRect(dc->GetSafeHdc(), &frame, ::GetSysColorBrush(COLOR_WINDOWTEXT));
