@@ -291,8 +291,8 @@ TEST_F(CellTypesTest, PrintingScalesTheFontAndNeverHighlights) {
     Picture small(kWide, kHigh), large(kWide, kHigh);
     CUGCell cell = Coloured("Hg");
     CRect area = small.Area();
-    Type(0)->OnPrint(small.Dc(), &area, &cell, 100);
-    Type(0)->OnPrint(large.Dc(), &area, &cell, 200);
+    Type(0)->OnPrint(small.Dc(), &area, &cell, 40);
+    Type(0)->OnPrint(large.Dc(), &area, &cell, 80);
     EXPECT_NEAR(2 * small.Bounds(kRed).Height(), large.Bounds(kRed).Height(), 3);
     EXPECT_EQ(0, large.Count(kBlue));
     EXPECT_EQ(nullptr, cell.GetFontHandle());
