@@ -68,6 +68,18 @@ void CUGCheckBoxType::DrawMark(CDC *dc, const RECT &box, bool filled) {
     ::SelectObject(dc->GetSafeHdc(), old);
 }
 
+// The whole outline is dark: the light side of a 3D edge alone would be lost on a white cell.
+void CUGCheckBoxType::DrawBox(CDC *dc, RECT box, int style) {
+    const bool recessed = (style & kCheckRecessed) != 0;
+    const bool raised = (style & kCheckRaised) && !recessed;
+    dc->FillSolidRect(&box, ::GetSysColor(raised ? COLOR_BTNFACE : COLOR_WINDOW));
+    ::FrameRect(dc->GetSafeHdc(), &box,
+                ::GetSysColorBrush(recessed ? COLOR_BTNSHADOW : raised ? COLOR_3DDKSHADOW : COLOR_WINDOWTEXT));
+    ::InflateRect(&box, -1, -1);
+    if (recessed || raised)
+        ::DrawEdge(dc->GetSafeHdc(), &box, recessed ? BDR_SUNKENOUTER : BDR_RAISEDINNER, BF_RECT);
+}
+
 void CUGCheckBoxType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current) {
     const RECT box = BoxRect(*rect);
     RECT text = *rect;
@@ -79,16 +91,8 @@ void CUGCheckBoxType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, i
     CUGCellType::OnDraw(dc, &text, cell, selected, current);
     if (box.right <= box.left)
         return;
-    RECT frame = box;
     const int style = StyleOf(cell);
-    const bool raised = (style & kCheckRaised) && !(style & kCheckRecessed);
-    dc->FillSolidRect(&frame, ::GetSysColor(raised ? COLOR_BTNFACE : COLOR_WINDOW));
-    if (style & kCheckRecessed)
-        ::DrawEdge(dc->GetSafeHdc(), &frame, EDGE_SUNKEN, BF_RECT);
-    else if (raised)
-        ::DrawEdge(dc->GetSafeHdc(), &frame, EDGE_RAISED, BF_RECT);
-    else
-        ::FrameRect(dc->GetSafeHdc(), &frame, ::GetSysColorBrush(COLOR_WINDOWTEXT));
+    DrawBox(dc, box, style);
     if (cell->GetNumber() != 0)
         DrawMark(dc, box, (style & kCheckFilled) != 0);
 }
