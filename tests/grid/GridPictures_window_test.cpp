@@ -97,6 +97,14 @@ TEST_F(GridPicturesTest, Surroundings) {
     Photograph("tabs and bars", CSize(330, 140));
     m_grid.SetTabWidth(110);
     Photograph("tabs without room", CSize(330, 140));
+    CWnd *child = CWnd::FromHandlePermanent(::GetDlgItem(m_grid.m_hWnd, kHintChildId));
+    auto *hint = static_cast<CUGHint *>(child);
+    hint->SetText("Row 3 of 6, gy");
+    hint->SetAlignment(UG_ALIGN_VCENTER | UG_ALIGN_RIGHT); // as the vertical bar hangs it up
+    hint->MoveHint(310, 60, 80);
+    hint->Show();
+    Photograph("hint", CSize(330, 140));
+    hint->Hide();
     m_grid.SetNumberRows(0);
     Photograph("no rows", CSize(330, 140));
     ExpectPicture("surroundings", m_sheet.Pixels());
