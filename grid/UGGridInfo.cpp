@@ -42,7 +42,9 @@ void CUGGridInfo::FitDefaultsToText(int cellTextHeight, int headingTextHeight) {
         if (size == UGScaleToDpi(standard, m_dotsPerInch))
             size = UGLineHeight(standard, m_dotsPerInch, textHeight);
     };
+    const int before = m_rows.m_defaultSize;
     fit(m_rows.m_defaultSize, kDefaultRowHeightPx, cellTextHeight);
+    std::replace(m_rows.m_sizes.begin(), m_rows.m_sizes.end(), before, m_rows.m_defaultSize);
     fit(m_topHeadingHeight, kDefaultHeadingHeightPx, headingTextHeight);
 }
 

@@ -109,6 +109,14 @@ TEST(GridInfoTest, SizesThatWereSetAreKept) {
     EXPECT_EQ("col=150 row=12 top=30 side=0", Sizes(info));
 }
 
+TEST(GridInfoTest, RowsThatHaveTheDefaultHeightGrowWithIt) {
+    CUGGridInfo info;
+    info.ResizeRows(3);
+    info.SetRowHeight(1, 12);
+    info.FitDefaultsToText(30, 16);
+    EXPECT_EQ((std::vector<int>{32, 12, 32}), info.m_rows.m_sizes);
+}
+
 TEST(GridInfoTest, DefaultRowAndHeadingGrowToTheirTextAndDoNotShrink) {
     CUGGridInfo info;
     info.FitDefaultsToText(16, 16);
