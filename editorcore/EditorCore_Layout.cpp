@@ -84,7 +84,7 @@ void CEditorCore::BuildDefaultLayout(bool setTranslations) {
     SetGridUsingDataSource(m_nDataSrcIndex);
     CUGCtrl::SetNumberRows(std::max(RowsOfSource(source), 0L), 1);
     SetGridInitColWidths();
-    SetRowHeight(0, kDefaultRowHeightPx);
+    SetRowHeight(0, ScaledRowHeight(kDefaultRowHeightPx));
     if (setTranslations) {
         for (int col = 0; col < GetNumberCols(); ++col)
             SetColTranslation(col, col);

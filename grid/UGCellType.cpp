@@ -3,6 +3,7 @@
 #include "grid/UGCtrl.h"
 #include "grid/UGDrawRules.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -113,7 +114,9 @@ void CUGCellType::OnPrint(CDC *dc, RECT *rect, CUGCell *cell, int scale) {
     HFONT font = cell->GetFontHandle() != nullptr ? cell->GetFontHandle() : m_GI->m_defaultFont;
     if (font == nullptr || ::GetObjectA(font, sizeof description, &description) == 0)
         ::GetObjectA(::GetStockObject(SYSTEM_FONT), sizeof description, &description);
-    description.lfHeight = ::MulDiv(description.lfHeight, scale, 100);
+    description.lfHeight = UGPrintFontHeight(static_cast<int>(description.lfHeight),
+                                             static_cast<int>(rect->bottom - rect->top),
+                                             m_GI->m_rows.m_defaultSize, scale);
     description.lfWidth = 0;
     CFont scaled;
     CUGCell copy(*cell);
@@ -121,6 +124,35 @@ void CUGCellType::OnPrint(CDC *dc, RECT *rect, CUGCell *cell, int scale) {
         copy.SetFont(&scaled);
     OnDraw(dc, rect, &copy, 0, 0);
 }
+
+namespace {
+
+// Draws the bitmap pressed into the rectangle's height and cut at its width; with `back` the surface around its
+// top left pixel gets that colour. It is filled in a bitmap of its own: on the screen that pixel may be clipped,
+// and the filling would run out into whatever has its colour.
+void BlitBitmap(HDC target, const CRect &rect, HBITMAP bitmap, int bitmapHeight, const COLORREF *back) {
+    HDC source = ::CreateCompatibleDC(target);
+    HDC work = ::CreateCompatibleDC(target);
+    HBITMAP picture = ::CreateCompatibleBitmap(target, rect.Width(), rect.Height());
+    HGDIOBJ oldSource = ::SelectObject(source, bitmap);
+    HGDIOBJ oldWork = ::SelectObject(work, picture);
+    ::SetStretchBltMode(work, COLORONCOLOR); // mixed colours would leave a seam where the filling ends
+    ::StretchBlt(work, 0, 0, rect.Width(), rect.Height(), source, 0, 0, rect.Width(), bitmapHeight, SRCCOPY);
+    if (back != nullptr) {
+        HGDIOBJ oldBrush = ::SelectObject(work, ::GetStockObject(DC_BRUSH));
+        ::SetDCBrushColor(work, *back);
+        ::ExtFloodFill(work, 0, 0, ::GetPixel(work, 0, 0), FLOODFILLSURFACE);
+        ::SelectObject(work, oldBrush);
+    }
+    ::BitBlt(target, rect.left, rect.top, rect.Width(), rect.Height(), work, 0, 0, SRCCOPY);
+    ::SelectObject(work, oldWork);
+    ::SelectObject(source, oldSource);
+    ::DeleteObject(picture);
+    ::DeleteDC(work);
+    ::DeleteDC(source);
+}
+
+} // namespace
 
 // Draws the bitmap at the left of the rectangle and takes its room off.
 void CUGCellType::DrawBitmap(CDC *dc, RECT *rect, CUGCell *cell, COLORREF back) {
@@ -134,21 +166,14 @@ void CUGCellType::DrawBitmap(CDC *dc, RECT *rect, CUGCell *cell, COLORREF back) 
     const int shownY = higher ? height - kBitmapMarginPx : info.bmHeight;
     if (shownX <= 0 || shownY <= 0)
         return;
-    HDC memory = ::CreateCompatibleDC(dc->GetSafeHdc());
-    HGDIOBJ old = ::SelectObject(memory, cell->GetBitmapHandle());
     RECT strip = *rect;
     strip.right = rect->left + shownX + kBitmapMarginPx;
     ::ExtTextOutA(dc->GetSafeHdc(), 0, 0, ETO_OPAQUE, &strip, "", 0, nullptr);
     const int x = static_cast<int>(rect->left) + kBitmapMarginPx / 2;
     const int y = static_cast<int>(rect->top) + (height - shownY) / 2;
-    ::StretchBlt(dc->GetSafeHdc(), x, y, shownX, shownY, memory, 0, 0, shownX, info.bmHeight, SRCCOPY);
-    if (!(StyleOf(cell) & UG_STYLE_KEEP_BITMAP)) {
-        ObjectScope brush(dc, ::GetStockObject(DC_BRUSH));
-        ::SetDCBrushColor(dc->GetSafeHdc(), back);
-        ::ExtFloodFill(dc->GetSafeHdc(), x, y, ::GetPixel(dc->GetSafeHdc(), x, y), FLOODFILLSURFACE);
-    }
-    ::SelectObject(memory, old);
-    ::DeleteDC(memory);
+    const bool keepBack = (StyleOf(cell) & UG_STYLE_KEEP_BITMAP) != 0;
+    BlitBitmap(dc->GetSafeHdc(), CRect(x, y, x + shownX, y + shownY), cell->GetBitmapHandle(), info.bmHeight,
+               keepBack ? nullptr : &back);
     rect->left += shownX + kBitmapMarginPx;
 }
 
@@ -187,7 +212,8 @@ void CUGCellType::DrawText(CDC *dc, RECT *rect, CUGCell *cell, COLORREF back) {
     ::ExtTextOutA(hdc, place.x, place.y, ETO_OPAQUE | ETO_CLIPPED, rect, text, length, nullptr);
 }
 
-// Draws the text from the left, clipped in front of a "..." that ends at the right.
+// Draws the text from the left, clipped in front of a "..." that ends at the right. Only whole characters: half
+// a letter would read as another one.
 void CUGCellType::DrawShortened(CDC *dc, const RECT &rect, const char *text, int length, int alignment) {
     HDC hdc = dc->GetSafeHdc();
     SIZE dots{};
@@ -195,8 +221,12 @@ void CUGCellType::DrawShortened(CDC *dc, const RECT &rect, const char *text, int
     const UGTextPlace place = UGPlaceText(rect, alignment & ~(UG_ALIGN_HCENTER | UG_ALIGN_RIGHT), dots.cy);
     RECT clip = rect;
     clip.right -= dots.cx + kSidePx;
+    const int room = std::max(static_cast<int>(clip.right) - place.x, 0);
+    int fitting = 0;
+    SIZE extent{};
+    ::GetTextExtentExPointA(hdc, text, length, room, &fitting, nullptr, &extent);
     ::SetTextAlign(hdc, TA_LEFT | TA_TOP);
-    ::ExtTextOutA(hdc, place.x, place.y, ETO_CLIPPED, &clip, text, length, nullptr);
+    ::ExtTextOutA(hdc, place.x, place.y, ETO_CLIPPED, &clip, text, fitting, nullptr);
     ::ExtTextOutA(hdc, static_cast<int>(clip.right), place.y, ETO_CLIPPED, &rect, "...", 3, nullptr);
 }
 

@@ -35,7 +35,8 @@ public:
     virtual int OnMouseMove(POINT *point, UINT flags);
     // `selected` and `current` choose the highlight colours. The border is already drawn and taken off `rect`.
     virtual void OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current);
-    // Draws with the font scaled; `scale` is the percentage of the screen's size.
+    // Draws as OnDraw does, not highlighted, with a font that has the proportion to the rectangle's height that
+    // it has on the screen to a row of default height; `scale` is a percentage of that.
     virtual void OnPrint(CDC *dc, RECT *rect, CUGCell *cell, int scale);
     virtual int OnSetFocus(int col, long row, CUGCell *cell);
     virtual int OnKillFocus(int col, long row, CUGCell *cell);

@@ -9,6 +9,8 @@ constexpr int kLowCellPx = 18; // in a lower cell the box shrinks
 constexpr int kLowMarginPx = 6;
 constexpr int kSmallestBoxPx = 6;
 constexpr int kLeftPx = 3;
+constexpr int kSmallMarkBoxPx = 10; // a smaller box leaves less room around its mark
+constexpr int kSmallestTickPx = 4;  // below that a tick is a blot: a square stands for it
 
 } // namespace
 
@@ -49,8 +51,9 @@ int CUGCheckBoxType::OnKeyDown(UINT *key) {
 
 void CUGCheckBoxType::DrawMark(CDC *dc, const RECT &box, bool filled) {
     RECT inner = box;
-    ::InflateRect(&inner, -3, -3);
-    if (filled) {
+    const int margin = box.right - box.left < kSmallMarkBoxPx ? 2 : 3;
+    ::InflateRect(&inner, -margin, -margin);
+    if (filled || inner.right - inner.left < kSmallestTickPx) {
         dc->FillSolidRect(&inner, ::GetSysColor(COLOR_WINDOWTEXT));
         return;
     }
@@ -65,6 +68,18 @@ void CUGCheckBoxType::DrawMark(CDC *dc, const RECT &box, bool filled) {
     ::SelectObject(dc->GetSafeHdc(), old);
 }
 
+// The whole outline is dark: the light side of a 3D edge alone would be lost on a white cell.
+void CUGCheckBoxType::DrawBox(CDC *dc, RECT box, int style) {
+    const bool recessed = (style & kCheckRecessed) != 0;
+    const bool raised = (style & kCheckRaised) && !recessed;
+    dc->FillSolidRect(&box, ::GetSysColor(raised ? COLOR_BTNFACE : COLOR_WINDOW));
+    ::FrameRect(dc->GetSafeHdc(), &box,
+                ::GetSysColorBrush(recessed ? COLOR_BTNSHADOW : raised ? COLOR_3DDKSHADOW : COLOR_WINDOWTEXT));
+    ::InflateRect(&box, -1, -1);
+    if (recessed || raised)
+        ::DrawEdge(dc->GetSafeHdc(), &box, recessed ? BDR_SUNKENOUTER : BDR_RAISEDINNER, BF_RECT);
+}
+
 void CUGCheckBoxType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current) {
     const RECT box = BoxRect(*rect);
     RECT text = *rect;
@@ -76,15 +91,8 @@ void CUGCheckBoxType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, i
     CUGCellType::OnDraw(dc, &text, cell, selected, current);
     if (box.right <= box.left)
         return;
-    RECT frame = box;
-    dc->FillSolidRect(&frame, ::GetSysColor(COLOR_WINDOW));
     const int style = StyleOf(cell);
-    if (style & kCheckRecessed)
-        ::DrawEdge(dc->GetSafeHdc(), &frame, EDGE_SUNKEN, BF_RECT);
-    else if (style & kCheckRaised)
-        ::DrawEdge(dc->GetSafeHdc(), &frame, EDGE_RAISED, BF_RECT);
-    else
-        ::FrameRect(dc->GetSafeHdc(), &frame, ::GetSysColorBrush(COLOR_WINDOWTEXT));
+    DrawBox(dc, box, style);
     if (cell->GetNumber() != 0)
         DrawMark(dc, box, (style & kCheckFilled) != 0);
 }

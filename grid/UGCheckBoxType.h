@@ -23,5 +23,6 @@ public:
 
 private:
     int Toggle(int col, long row);
+    static void DrawBox(CDC *dc, RECT box, int style);
     static void DrawMark(CDC *dc, const RECT &box, bool filled);
 };

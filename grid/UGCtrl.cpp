@@ -58,6 +58,16 @@ void CUGCtrl::ReadSystemColours() {
                            ::GetSysColor(COLOR_BTNFACE));
 }
 
+int CUGCtrl::TextHeight(HFONT font) {
+    CClientDC dc(this);
+    HGDIOBJ old = font != nullptr ? ::SelectObject(dc.GetSafeHdc(), font) : nullptr;
+    TEXTMETRICA metrics{};
+    ::GetTextMetricsA(dc.GetSafeHdc(), &metrics);
+    if (old != nullptr)
+        ::SelectObject(dc.GetSafeHdc(), old);
+    return static_cast<int>(metrics.tmHeight);
+}
+
 BOOL CUGCtrl::PreCreateWindow(CREATESTRUCT &create) {
     if (create.lpszClass == nullptr)
         create.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorA(nullptr, IDC_ARROW), nullptr, nullptr);
@@ -74,11 +84,16 @@ int CUGCtrl::OnCreate(LPCREATESTRUCT create) {
         return -1;
     if (CWnd *parent = GetParent())
         m_GI.m_defaultFont = reinterpret_cast<HFONT>(::SendMessageA(parent->m_hWnd, WM_GETFONT, 0, 0));
+    CClientDC dc(this);
+    m_GI.ScaleDefaults(dc.GetDeviceCaps(LOGPIXELSY));
     if (!CreateChildren())
         return -1;
     m_dropTarget.Register(&m_grid); // fails without OLE: then nothing can be dropped
     m_popupMenu.CreatePopupMenu();
     OnSetup();
+    const HFONT heading = m_GI.m_headingDefault.GetFontHandle();
+    m_GI.FitDefaultsToText(TextHeight(m_GI.m_defaultFont),
+                           TextHeight(heading != nullptr ? heading : m_GI.m_defaultFont));
     AdjustComponents();
     return 0;
 }

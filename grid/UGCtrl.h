@@ -14,6 +14,7 @@
 #include "grid/UGCheckBoxType.h"
 #include "grid/UGCnrBtn.h"
 #include "grid/UGDefine.h"
+#include "grid/UGDrawRules.h"
 #include "grid/UGDropListType.h"
 #include "grid/UGDropTarget.h"
 #include "grid/UGEdit.h"
@@ -128,6 +129,10 @@ public:
     int SetRowHeight(long row, int height);
     int SetDefaultRowHeight(int height);
     int SetUniformRowHeight(int flag);
+    // Pixels for a length that is `px` at 96 dots an inch.
+    int ScaledPx(int px) const { return UGScaleToDpi(px, m_GI.m_dotsPerInch); }
+    // The height for rows that are `px` high at 96 dots an inch: scaled, and no less than the default font needs.
+    int ScaledRowHeight(int px) { return UGLineHeight(px, m_GI.m_dotsPerInch, TextHeight(m_GI.m_defaultFont)); }
     int SetTH_Height(int height);
     int SetSH_Width(int width);
     int GetTH_Height() const { return m_GI.m_topHeadingHeight; }
@@ -294,6 +299,7 @@ private:
     friend class CUGLstBox;
 
     void ReadSystemColours();
+    int TextHeight(HFONT font); // of a line; null for the system's font
     bool CreateChildren();
     void AdjustComponents();
     void AdjustAxis(CUGAxis &axis);

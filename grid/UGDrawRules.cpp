@@ -2,10 +2,15 @@
 
 #include "grid/UGDefine.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 constexpr int kSideMarginPx = 3; // between text and the cell's left or right edge
 constexpr int kEndMarginPx = 1;  // between text and the cell's top or bottom edge
+constexpr int kGridLinePx = 1;   // what the default border takes of a row
+constexpr int kUnscaledDpi = 96;
 constexpr int kThinBits = 0;     // lowest bit of each family of lines, four sides each
 constexpr int kMediumBits = 4;
 constexpr int kThickBits = 8;
@@ -62,6 +67,22 @@ UGTextPlace UGPlaceText(const RECT &rect, int alignment, int textHeight) {
     else if (alignment & UG_ALIGN_BOTTOM)
         place.y = static_cast<int>(rect.bottom) - kEndMarginPx - textHeight;
     return place;
+}
+
+int UGScaleToDpi(int px, int dotsPerInch) {
+    return dotsPerInch > 0 ? (px * dotsPerInch + kUnscaledDpi / 2) / kUnscaledDpi : px;
+}
+
+int UGLineHeight(int px, int dotsPerInch, int textHeight) {
+    return std::max(UGScaleToDpi(px, dotsPerInch), textHeight + kEndMarginPx + kGridLinePx);
+}
+
+int UGPrintFontHeight(int fontHeight, int rectHeight, int rowHeight, int scale) {
+    double height = fontHeight * (scale / 100.0);
+    if (rowHeight > 0)
+        height *= static_cast<double>(rectHeight) / rowHeight;
+    const int rounded = static_cast<int>(std::lround(height));
+    return rounded != 0 ? rounded : fontHeight < 0 ? -1 : 1;
 }
 
 bool UGNeedsEllipsis(const RECT &rect, int textWidth) {

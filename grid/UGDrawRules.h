@@ -17,5 +17,16 @@ struct UGTextPlace {
 };
 ORVANE_API UGTextPlace UGPlaceText(const RECT &rect, int alignment, int textHeight);
 
+// Pixels for a length that is `px` at 96 dots an inch.
+ORVANE_API int UGScaleToDpi(int px, int dotsPerInch);
+
+// Height of a row or heading that is `px` high at 96 dots an inch: higher where a line of text of this height,
+// with its margin and a grid line, would be cut.
+ORVANE_API int UGLineHeight(int px, int dotsPerInch, int textHeight);
+
+// Height of a font on paper: its height on the screen, of either sign, in the proportion of the rectangle's
+// height to that of a row on the screen, times `scale` percent. Never 0, which is the system's choice.
+ORVANE_API int UGPrintFontHeight(int fontHeight, int rectHeight, int rowHeight, int scale);
+
 // True when a text of this width has to be shortened with "..." to stand in the rectangle.
 ORVANE_API bool UGNeedsEllipsis(const RECT &rect, int textWidth);

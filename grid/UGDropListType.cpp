@@ -7,7 +7,7 @@
 namespace {
 
 constexpr int kListChildId = 238;
-constexpr int kFontHeightPx = 12; // where neither the cell nor the grid has a font
+constexpr int kFontHeightPx = 12; // at 96 dots an inch, where neither the cell nor the grid has a font
 constexpr int kBorderPx = 2;      // both lines of the list's frame
 
 } // namespace
@@ -88,7 +88,7 @@ HFONT CUGDropListType::ListFont() {
     if (m_GI->m_defaultFont != nullptr)
         return m_GI->m_defaultFont;
     if (m_ownFont.GetSafeHandle() == nullptr)
-        m_ownFont.CreateFont(kFontHeightPx, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "Arial");
+        m_ownFont.CreateFont(m_ctrl->ScaledPx(kFontHeightPx), 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "Arial");
     return static_cast<HFONT>(m_ownFont.GetSafeHandle());
 }
 

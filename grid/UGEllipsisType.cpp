@@ -28,8 +28,8 @@ int CUGEllipsisType::OnLClicked(int col, long row, int updn, RECT *rect, POINT *
         return UGCT_NOT_HANDLED;
     const int pressedCol = m_btnCol;
     const long pressedRow = m_btnRow;
-    ForgetCell();
     m_ctrl->OnCellTypeNotify(GetID(), pressedCol, pressedRow, kEllipsisPressed, 0);
+    ForgetCell();
     m_ctrl->RedrawCell(pressedCol, pressedRow);
     return UGCT_HANDLED;
 }

@@ -23,6 +23,8 @@ public:
     // Marks every visible cell of the selected blocks for repaint.
     void InvalidateSelection();
     void SetDoubleBuffer(bool on);
+    // The double focus frame of the current cell, within its rectangle. It inverts what is there.
+    static void DrawFocusFrame(CDC *dc, RECT cell);
 
     CUGCtrl *m_ctrl = nullptr; // both borrowed, set by the control
     CUGGridInfo *m_GI = nullptr;
@@ -68,7 +70,8 @@ private:
     bool ScrollImage(int dx, int dy);
 
     void GoByMouse(int moveType, int col, long row);
-    int PressOnType(int col, long row, RECT *rect, POINT *point);
+    RECT TypeArea(int col, long row, RECT rect);
+    int PressOnType(int col, long row, const RECT &rect, POINT *point);
     void DragTo(CPoint point);
     void DragScroll(CPoint point);
     bool DragStep(CPoint point);

@@ -1,15 +1,21 @@
 #include "grid/UGGridInfo.h"
 
+#include "grid/UGDrawRules.h"
+
 namespace {
 
 constexpr int kDefaultColWidthPx = 100;
 constexpr int kDefaultRowHeightPx = 20;
+constexpr int kDefaultHeadingHeightPx = 20;
+constexpr int kDefaultSideWidthPx = 50;
 
 } // namespace
 
 CUGGridInfo::CUGGridInfo() {
     m_cols.m_defaultSize = kDefaultColWidthPx;
     m_rows.m_defaultSize = kDefaultRowHeightPx;
+    m_topHeadingHeight = kDefaultHeadingHeightPx;
+    m_sideHeadingWidth = kDefaultSideWidthPx;
     m_gridDefault.SetDataType(UGCELL_DATA_TEXT);
     m_gridDefault.SetReadOnly(0);
     m_gridDefault.SetAlignment(UG_ALIGN_LEFT);
@@ -17,6 +23,29 @@ CUGGridInfo::CUGGridInfo() {
     m_headingDefault.SetAlignment(UG_ALIGN_HCENTER | UG_ALIGN_VCENTER);
     m_headingDefault.SetBorder(UG_BDR_RAISED);
     m_headingDefault.SetTextColor(0);
+}
+
+void CUGGridInfo::ScaleDefaults(int dotsPerInch) {
+    m_dotsPerInch = dotsPerInch;
+    const auto scale = [&](int &size, int standard) {
+        if (size == standard)
+            size = UGScaleToDpi(standard, dotsPerInch);
+    };
+    scale(m_cols.m_defaultSize, kDefaultColWidthPx);
+    scale(m_rows.m_defaultSize, kDefaultRowHeightPx);
+    scale(m_topHeadingHeight, kDefaultHeadingHeightPx);
+    scale(m_sideHeadingWidth, kDefaultSideWidthPx);
+}
+
+void CUGGridInfo::FitDefaultsToText(int cellTextHeight, int headingTextHeight) {
+    const auto fit = [&](int &size, int standard, int textHeight) {
+        if (size == UGScaleToDpi(standard, m_dotsPerInch))
+            size = UGLineHeight(standard, m_dotsPerInch, textHeight);
+    };
+    const int before = m_rows.m_defaultSize;
+    fit(m_rows.m_defaultSize, kDefaultRowHeightPx, cellTextHeight);
+    std::replace(m_rows.m_sizes.begin(), m_rows.m_sizes.end(), before, m_rows.m_defaultSize);
+    fit(m_topHeadingHeight, kDefaultHeadingHeightPx, headingTextHeight);
 }
 
 void CUGGridInfo::SetDefaultColours(COLORREF text, COLORREF back, COLORREF hText, COLORREF hBack,

@@ -34,8 +34,8 @@ public:
     CUGCell m_cornerHeading;                             // also the model of new column headings
     CUGCell m_currentCell;                               // the current cell as read at the last update
 
-    int m_topHeadingHeight = 20;
-    int m_sideHeadingWidth = 50; // includes the locked columns
+    int m_topHeadingHeight; // default 20
+    int m_sideHeadingWidth; // default 50; includes the locked columns
     int m_vScrollWidth = 16;
     int m_hScrollHeight = 16;
     bool m_hScrollShown = false;
@@ -46,6 +46,7 @@ public:
     int m_currentCellStyle = 1; // bit 1 focus rectangle, bit 2 highlight colours
     int m_moveType = UG_MOVED_BY_PROGRAM;
     int m_3dBorderWidth = 1;
+    int m_dotsPerInch = 96; // of the display, as the control found it at its creation
     HFONT m_defaultFont = nullptr; // borrowed
     int m_paintingEnabled = 1;
     int m_popupMenuEnabled = 0;
@@ -74,6 +75,13 @@ public:
     // a colour of their own, that is another than this operation put in last. Colours in the order text, back,
     // highlight text, highlight back of the cells, and back of the headings.
     void SetDefaultColours(COLORREF text, COLORREF back, COLORREF hText, COLORREF hBack, COLORREF heading);
+
+    // The default sizes for a display of this resolution: they are meant for 96 dots an inch. A size that was
+    // set before is kept.
+    void ScaleDefaults(int dotsPerInch);
+    // Makes default row and top heading as high as a line of text needs that is so high, where these still have
+    // the default size. Does not shrink them.
+    void FitDefaultsToText(int cellTextHeight, int headingTextHeight);
 
     // Gives the axis `count` columns: kept ones keep width, default and heading, new ones get copies of the
     // defaults. All or nothing when memory runs out. The cursors are the caller's.

@@ -2,6 +2,7 @@
 #include "grid/UGCtrl.h"
 
 #include "grid/UGDragScroll.h"
+#include "grid/UGDrawRules.h"
 
 #include <algorithm>
 
@@ -75,11 +76,20 @@ void CUGGrid::GoByMouse(int moveType, int col, long row) {
     m_GI->m_moveType = UG_MOVED_BY_PROGRAM;
 }
 
-int CUGGrid::PressOnType(int col, long row, RECT *rect, POINT *point) {
+// What a cell's type paints in, and so what it takes clicks in: the cell without its border.
+RECT CUGGrid::TypeArea(int col, long row, RECT rect) {
+    CUGCell cell;
+    m_ctrl->GetCell(col, row, &cell);
+    UGShrinkByBorder(&rect, cell.GetBorder(), m_GI->m_3dBorderWidth);
+    return rect;
+}
+
+int CUGGrid::PressOnType(int col, long row, const RECT &rect, POINT *point) {
     if (col != m_ctrl->GetCurrentCol() || row != m_ctrl->GetCurrentRow())
         return 0;
     CUGCellType *type = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType());
-    const int processed = type->OnLClicked(col, row, 1, rect, point);
+    RECT area = TypeArea(col, row, rect);
+    const int processed = type->OnLClicked(col, row, 1, &area, point);
     if (processed == UGCT_HANDLED)
         m_tracker = type;
     return processed;
@@ -94,7 +104,7 @@ void CUGGrid::OnLButtonDown(UINT, CPoint point) {
     if (m_ctrl->GetCellFromPoint(point.x, point.y, &col, &row, &rect) == GRID_SUCCESS) {
         GoByMouse(UG_MOVED_BY_CLICK, col, row);
         m_ctrl->GetCellRect(col, row, &rect);
-        processed = PressOnType(col, row, &rect, &point);
+        processed = PressOnType(col, row, rect, &point);
     } else {
         col = -1;
         row = -1;
@@ -120,7 +130,8 @@ void CUGGrid::OnLButtonUp(UINT, CPoint point) {
         m_ctrl->GetCellRect(col, row, &rect);
     }
     CUGCellType *type = tracker != nullptr ? tracker : m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType());
-    processed = type->OnLClicked(col, row, 0, &rect, &point);
+    RECT area = TypeArea(col, row, rect);
+    processed = type->OnLClicked(col, row, 0, &area, &point);
     m_ctrl->OnLClicked(col, row, 0, &rect, &point, processed);
     if (GetCapture() == this)
         ReleaseCapture();
@@ -132,8 +143,10 @@ void CUGGrid::OnLButtonDblClk(UINT, CPoint point) {
     RECT rect{};
     int processed = 0;
     m_ctrl->GetCellFromPoint(point.x, point.y, &col, &row, &rect);
-    if (col >= 0 && col == m_ctrl->GetCurrentCol() && row == m_ctrl->GetCurrentRow())
-        processed = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType())->OnDClicked(col, row, &rect, &point);
+    if (col >= 0 && col == m_ctrl->GetCurrentCol() && row == m_ctrl->GetCurrentRow()) {
+        RECT area = TypeArea(col, row, rect);
+        processed = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType())->OnDClicked(col, row, &area, &point);
+    }
     m_ctrl->OnDClicked(col, row, &rect, &point, processed);
 }
 
@@ -146,9 +159,11 @@ void CUGGrid::OnRButtonDown(UINT, CPoint point) {
     if (m_ctrl->GetCellFromPoint(point.x, point.y, &col, &row, &rect) == GRID_SUCCESS) {
         GoByMouse(UG_MOVED_BY_CLICK, col, row);
         m_ctrl->GetCellRect(col, row, &rect);
-        if (col == m_ctrl->GetCurrentCol() && row == m_ctrl->GetCurrentRow())
+        if (col == m_ctrl->GetCurrentCol() && row == m_ctrl->GetCurrentRow()) {
+            RECT area = TypeArea(col, row, rect);
             processed = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType())
-                            ->OnRClicked(col, row, 1, &rect, &point);
+                            ->OnRClicked(col, row, 1, &area, &point);
+        }
     }
     m_ctrl->OnRClicked(col, row, 1, &rect, &point, processed);
     CPoint screen = point;

@@ -96,6 +96,10 @@ void CUGGrid::DrawFocusFrame(CDC *dc) {
         return;
     if (rect.right <= 0 || rect.bottom <= 0 || !::RectVisible(dc->GetSafeHdc(), &rect))
         return;
+    DrawFocusFrame(dc, rect);
+}
+
+void CUGGrid::DrawFocusFrame(CDC *dc, RECT rect) {
     // The frame lies inside the grid lines. It inverts, so it is drawn only where the cell was drawn with it:
     // a cell repaints as a whole, and the clip region leaves the rest alone.
     rect.right -= 1;

@@ -18,7 +18,7 @@ END_MESSAGE_MAP()
 
 namespace {
 
-constexpr int kFontHeightPx = 14;
+constexpr int kFontHeightPx = 14; // at 96 dots an inch
 constexpr int kFontWeight = 500;
 constexpr int kLinePx = 10; // what an arrow of the bar scrolls by
 constexpr COLORREF kCurrentBack = RGB(255, 255, 255);
@@ -47,7 +47,7 @@ HFONT CUGTab::Font() {
     if (m_font != nullptr)
         return m_font;
     if (m_ownFont.GetSafeHandle() == nullptr)
-        m_ownFont.CreateFont(kFontHeightPx, 0, 0, 0, kFontWeight, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0,
+        m_ownFont.CreateFont(m_ctrl->ScaledPx(kFontHeightPx), 0, 0, 0, kFontWeight, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0,
                              "Arial");
     return static_cast<HFONT>(m_ownFont.GetSafeHandle());
 }

@@ -7,7 +7,7 @@ IMPLEMENT_DYNAMIC(CGalleryGrid, CUGCtrl)
 namespace {
 
 constexpr int kSamples = 4;
-constexpr int kTall = 46; // row heights, pixels
+constexpr int kTall = 46; // row heights, pixels at 96 dots an inch as all sizes here
 constexpr int kLow = 24;
 constexpr COLORREF kNone = 0xFFFFFFFF;
 
@@ -189,7 +189,7 @@ void CGalleryGrid::OnSetup() {
     AddTab("Frame", kFrameTab);
     AddTab("Highlighted Cell", kCellTab);
     AddTab("Highlighted Row", kRowTab);
-    SetTabWidth(290);
+    SetTabWidth(ScaledPx(290));
 }
 
 void CGalleryGrid::MakeDrawingObjects() {
@@ -215,19 +215,19 @@ void CGalleryGrid::MakeColumns() {
     constexpr int kNoteWidth = 360;
     constexpr int kNameWidth = 150;
     SetNumberCols(kSamples + 1);
-    SetSH_Width(kNameWidth);
-    SetTH_Height(kLow);
+    SetSH_Width(ScaledPx(kNameWidth));
+    SetTH_Height(ScaledRowHeight(kLow));
     for (int col = 0; col <= kSamples; ++col) {
         CString name("How to Try");
         if (col < kSamples)
             name.Format("Sample %d", col + 1);
         QuickSetText(col, -1, name);
-        SetColWidth(col, col < kSamples ? kSampleWidth : kNoteWidth);
+        SetColWidth(col, ScaledPx(col < kSamples ? kSampleWidth : kNoteWidth));
     }
 }
 
 void CGalleryGrid::MakeRow(long row) {
-    SetRowHeight(row, kRows[row].height);
+    SetRowHeight(row, ScaledPx(kRows[row].height));
     for (int col = 0; col < kSamples; ++col) {
         CUGCell cell = CellOf(kRows[row].samples[col]);
         SetCell(col, row, &cell);

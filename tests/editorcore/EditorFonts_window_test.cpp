@@ -77,6 +77,25 @@ TEST_F(EditorFontsTest, TheNextFirstEditorMakesThemAgainAsTheyWereSet) {
     EXPECT_EQ(31, HeadingHeightOf(editor));
 }
 
+TEST_F(EditorFontsTest, TheRowsOfANewLayoutAreHighEnoughForTheCellFont) {
+    const auto rowHeight = [](CEditorCore &editor) {
+        int height = 0;
+        editor.GetRowHeight(0, &height);
+        return height;
+    };
+    CEditorCore::SetFonts(FontOf(12), FontOf(12));
+    EXPECT_EQ(18, rowHeight(Open(2, 3)));
+    CEditorCore::SetFonts(FontOf(40), FontOf(12));
+    TestEditor &editor = Open(2, 3);
+    CDC *dc = editor.GetGridDC();
+    HGDIOBJ old = ::SelectObject(dc->GetSafeHdc(), editor.m_GI.m_defaultFont);
+    TEXTMETRICA metrics{};
+    ::GetTextMetricsA(dc->GetSafeHdc(), &metrics);
+    ::SelectObject(dc->GetSafeHdc(), old);
+    editor.ReleaseGridDC(dc);
+    EXPECT_EQ(metrics.tmHeight + 2, rowHeight(editor));
+}
+
 TEST_F(EditorFontsTest, WithoutEditorsTheFontsAreStillTaken) {
     CEditorCore::SetFonts(FontOf(19), FontOf(31));
     EXPECT_NE(nullptr, TestEditor::CellFont());

@@ -252,4 +252,80 @@ TEST_F(CheckBoxTypeTest, TheStyleBitsChooseTheLookOfTheBox) {
     EXPECT_EQ("flat recessed raised ", looks);
 }
 
+// Where a cell with a thick border shows its box or button, and where clicks on it are taken.
+class BorderedCellTest : public CellTypesTest {
+protected:
+    static constexpr int kThick = 256 | 512 | 1024 | 2048;
+    void PutBordered(int type, const char *text) {
+        Put(1, 1, type, text, "one\ntwo\n");
+        CUGCell cell;
+        m_grid.GetCellRaw(1, 1, &cell);
+        cell.SetBorder(kThick);
+        m_grid.SetCell(1, 1, &cell);
+        m_grid.SetRowHeight(1, 30);
+        PumpAll();
+    }
+    CRect Inside() {
+        CRect rect = RectOf(1, 1);
+        rect.DeflateRect(3, 3);
+        return rect;
+    }
+    void ClickAt(int x, int y) { ClickLeft(m_grid.Cells(), x, y); }
+};
+
+TEST_F(BorderedCellTest, TheBoxIsTakenWhereItIsPainted) {
+    PutBordered(kCheckBoxTypeId, "0");
+    const CRect box(CUGCheckBoxType::BoxRect(Inside()));
+    CDC *dc = m_grid.GetGridDC();
+    EXPECT_EQ(::GetSysColor(COLOR_WINDOWTEXT), ::GetPixel(dc->GetSafeHdc(), box.left, box.top));
+    m_grid.ReleaseGridDC(dc);
+    ClickAt(box.left - 1, box.top + 2);
+    ClickAt(box.right, box.top + 2);
+    EXPECT_EQ("0", m_grid.Text(1, 1));
+    ClickAt(box.left, box.top);
+    EXPECT_EQ("1.00", m_grid.Text(1, 1));
+    ClickAt(box.right - 1, box.bottom - 1);
+    EXPECT_EQ("0.00", m_grid.Text(1, 1));
+}
+
+TEST_F(BorderedCellTest, TheButtonIsTakenWhereItIsPainted) {
+    const int width = ::GetSystemMetrics(SM_CXVSCROLL);
+    for (int type : {kEllipsisTypeId, kSpinTypeId, kDropListTypeId}) {
+        PutBordered(type, "5");
+        const CRect inside = Inside();
+        const int y = inside.CenterPoint().y + 2;
+        const auto told = [&](int x) {
+            Told();
+            ClickAt(x, y);
+            const bool any = !Told().empty();
+            if (m_grid.List() != nullptr)
+                SendKey(m_grid.List(), VK_ESCAPE);
+            m_grid.GotoCell(0, 0); // a list that just closed is forgotten
+            m_grid.GotoCell(1, 1);
+            return any;
+        };
+        EXPECT_FALSE(told(inside.right)) << "type " << type; // on the border
+        EXPECT_TRUE(told(inside.right - 1)) << "type " << type;
+        EXPECT_TRUE(told(inside.right - width)) << "type " << type;
+        EXPECT_FALSE(told(inside.right - width - 1)) << "type " << type;
+    }
+}
+
+TEST_F(EllipsisTypeTest, TheButtonStaysPressedWhileTheReceiverIsAtWork) {
+    bool pressed = false;
+    m_grid.m_onTold = [&] { pressed = LooksPressed(1); };
+    Press(kEllipsisTypeId, 1, 1, Button());
+    Release(kEllipsisTypeId, 1, 1, Button());
+    EXPECT_TRUE(pressed);
+    EXPECT_FALSE(LooksPressed(1));
+}
+
+TEST_F(CheckBoxTypeTest, AMarkTooSmallForATickIsASquare) {
+    const COLORREF ink = ::GetSysColor(COLOR_WINDOWTEXT);
+    Picture off(100, 12), on(100, 12);
+    Draw(off, kCheckBoxTypeId, Coloured("0"));
+    Draw(on, kCheckBoxTypeId, Coloured("1"));
+    EXPECT_EQ(off.Count(ink) + 4, on.Count(ink));
+}
+
 } // namespace

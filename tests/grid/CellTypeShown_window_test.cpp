@@ -143,4 +143,40 @@ TEST_F(CellTypesTest, AChangeOfTheSystemsColoursReachesTheTypes) {
     m_grid.ReleaseGridDC(dc);
 }
 
+TEST_F(CellTypesTest, ButtonsBoxesAndHeadingsFollowTheSystemsColours) {
+    const int types[] = {kEllipsisTypeId, kSpinTypeId, kDropListTypeId};
+    for (int i = 0; i < 3; ++i)
+        Put(i, 0, types[i], "");
+    Put(0, 1, kCheckBoxTypeId, "1");
+    m_grid.GotoCell(2, 4);
+    const COLORREF face = RGB(10, 200, 30), shadow = RGB(90, 0, 90), ink = RGB(200, 0, 0);
+    const auto count = [](HWND window, COLORREF colour, const CRect &where) {
+        HDC dc = ::GetDC(window);
+        int found = 0;
+        for (int y = where.top; y < where.bottom; ++y) {
+            for (int x = where.left; x < where.right; ++x)
+                found += ::GetPixel(dc, x, y) == colour;
+        }
+        ::ReleaseDC(window, dc);
+        return found;
+    };
+    const auto seen = [&] {
+        m_grid.SendMessage(WM_SYSCOLORCHANGE, 0, 0);
+        PumpAll();
+        std::string all;
+        for (int i = 0; i < 3; ++i)
+            all += count(m_grid.Cells(), face, ButtonOf(i, 0)) > 20 ? "face " : "- ";
+        all += count(m_grid.Cells(), shadow, ButtonOf(0, 0) + CPoint(-2, 0)) > 10 ? "line " : "- ";
+        all += count(m_grid.Cells(), ink, RectOf(0, 1)) > 20 ? "box " : "- ";
+        all += count(m_grid.TopHeading(), face, CRect(0, 0, 60, 15)) > 50 ? "heading " : "- ";
+        all += count(m_grid.TopHeading(), shadow, CRect(0, 15, 60, 20)) > 50 ? "frame" : "-";
+        return all;
+    };
+    {
+        SystemColour a(COLOR_BTNFACE, face), b(COLOR_BTNSHADOW, shadow), c(COLOR_WINDOWTEXT, ink);
+        EXPECT_EQ("face face face line box heading frame", seen());
+    }
+    EXPECT_EQ("- - - - - - -", seen());
+}
+
 } // namespace

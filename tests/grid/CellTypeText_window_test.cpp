@@ -203,6 +203,28 @@ TEST_F(BitmapCellTest, ABitmapStandsAtTheLeftAndTheTextBehindIt) {
     EXPECT_EQ(0, picture.Count(kUnpainted));
 }
 
+TEST_F(BitmapCellTest, ABackgroundIsFilledWhereItsCornerIsClippedToo) {
+    Make(16, 16);
+    CUGCell cell = Coloured("");
+    cell.SetBitmap(&m_bitmap);
+    Picture picture(kWide, kHigh);
+    ::IntersectClipRect(picture.Dc()->GetSafeHdc(), 10, 0, kWide, kHigh);
+    Draw(picture, 0, cell);
+    ::SelectClipRgn(picture.Dc()->GetSafeHdc(), nullptr);
+    EXPECT_EQ(0, picture.Count(RGB(255, 255, 255)));
+    EXPECT_LT(0, picture.Count(RGB(0, 0, 0)));
+}
+
+TEST_F(BitmapCellTest, FillingABackgroundStaysWithinTheBitmap) {
+    Make(16, 16);
+    CUGCell cell = Coloured("");
+    cell.SetBitmap(&m_bitmap);
+    cell.SetHBackColor(RGB(255, 255, 255)); // as the bitmap's own background
+    Picture picture(kWide, kHigh);
+    Draw(picture, 0, cell, 1);
+    EXPECT_EQ(kWide * kHigh - 8 * 8, picture.Count(RGB(255, 255, 255)));
+}
+
 TEST_F(BitmapCellTest, WithStyleSixteenTheBackgroundOfABitmapStays) {
     Make(16, 16);
     CUGCell cell = Coloured("HH", UG_STYLE_KEEP_BITMAP);
@@ -269,11 +291,72 @@ TEST_F(CellTypesTest, PrintingScalesTheFontAndNeverHighlights) {
     Picture small(kWide, kHigh), large(kWide, kHigh);
     CUGCell cell = Coloured("Hg");
     CRect area = small.Area();
-    Type(0)->OnPrint(small.Dc(), &area, &cell, 100);
-    Type(0)->OnPrint(large.Dc(), &area, &cell, 200);
+    Type(0)->OnPrint(small.Dc(), &area, &cell, 40);
+    Type(0)->OnPrint(large.Dc(), &area, &cell, 80);
     EXPECT_NEAR(2 * small.Bounds(kRed).Height(), large.Bounds(kRed).Height(), 3);
     EXPECT_EQ(0, large.Count(kBlue));
     EXPECT_EQ(nullptr, cell.GetFontHandle());
+}
+
+TEST_F(CellTypesTest, PrintingTakesTheFontsHeightFromTheRectangle) {
+    CUGCell cell = Coloured("Hg");
+    const auto inkHeight = [&](int rectHeight, int scale) {
+        Picture picture(200, 100);
+        CRect rect(0, 0, 200, rectHeight);
+        Type(0)->OnPrint(picture.Dc(), &rect, &cell, scale);
+        return picture.Bounds(kRed).Height();
+    };
+    Picture screen(200, 20);
+    Draw(screen, 0, cell);
+    // A rectangle of a row's height prints as the screen shows; one of four rows' height four times as high.
+    EXPECT_NEAR(screen.Bounds(kRed).Height(), inkHeight(20, 100), 1);
+    EXPECT_NEAR(4 * inkHeight(20, 100), inkHeight(80, 100), 4);
+    EXPECT_NEAR(inkHeight(80, 100), 2 * inkHeight(80, 50), 4);
+    m_grid.SetDefaultRowHeight(40);
+    EXPECT_NEAR(2 * screen.Bounds(kRed).Height(), inkHeight(80, 100), 3);
+}
+
+TEST_F(CellTypesTest, EveryTypePrintsAsItDraws) {
+    for (int id : {1, 2, 4, 5, 6, 8, 1002}) {
+        Picture drawn(100, 20), printed(100, 20);
+        CUGCell cell = Coloured("50");
+        CRect area = printed.Area();
+        Draw(drawn, id, cell);
+        Type(id)->OnPrint(printed.Dc(), &area, &cell, 100);
+        for (COLORREF colour : {kRed, kPale, kBlue, ::GetSysColor(COLOR_BTNFACE)})
+            EXPECT_NEAR(drawn.Count(colour), printed.Count(colour), 60) << "type " << id;
+        EXPECT_EQ(0, printed.Count(kUnpainted)) << "type " << id;
+    }
+}
+
+TEST_F(CellTypesTest, EveryTypeAnswersAllOperations) {
+    std::string all;
+    for (int id : {0, 1, 2, 4, 5, 6, 8, 1002}) {
+        CUGCellType *type = Type(id);
+        Picture picture(100, 20);
+        CUGCell cell = Coloured("text");
+        CRect rect(0, 0, 100, 20);
+        CPoint point(50, 10);
+        UINT key = VK_F24;
+        SIZE size{};
+        type->GetBestSize(picture.Dc(), &size, &cell);
+        all += std::to_string(type->GetID()) + ":";
+        for (int answer : {type->UnusedCellOperationA(1, 2), type->UnusedCellOperationB(1, 2, 3),
+                           type->UnusedCellOperationC(), type->OnRClicked(0, 0, 1, &rect, &point),
+                           type->OnCharDown(&key), type->OnKeyDown(&key), type->OnMouseMove(&point, 0),
+                           type->OnSetFocus(2, 1, &cell)})
+            all += std::to_string(answer) + " ";
+        all += "focus" + std::to_string(type->m_hasFocus) + "@" + std::to_string(type->m_focusCol) + "." +
+               std::to_string(type->m_focusRow);
+        type->OnKillFocus(2, 1, &cell);
+        all += " then " + std::to_string(type->m_hasFocus) + (size.cx > 0 && size.cy > 0 ? " sized" : "") + "\n";
+    }
+    const auto line = [](const char *id, const char *move) {
+        return std::string(id) + ":-1 -1 1 -1 -1 -1 " + move + " 2 focus1@2.1 then 0 sized\n";
+    };
+    EXPECT_EQ(line("0", "-1") + line("1", "-1") + line("2", "-1") + line("4", "-1") + line("5", "-1") +
+                  line("6", "0") + line("8", "-1") + line("1002", "0"),
+              all);
 }
 
 TEST_F(CellTypesTest, ACellOfAnUnknownTypeIsDrawnByTheBaseType) {

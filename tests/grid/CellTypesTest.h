@@ -42,6 +42,12 @@ class TypesGrid : public RecordingGrid {
 public:
     void OnCellTypeNotify(long id, int col, long row, long message, LPARAM param) override;
     HWND List() const { return ::GetDlgItem(m_hWnd, 238); }
+    void OnGetCell(int col, long row, CUGCell *cell) override {
+        RecordingGrid::OnGetCell(col, row, cell);
+        if (m_onReadCell)
+            m_onReadCell(col, row, cell);
+    }
+    std::function<void(int, long, CUGCell *)> m_onReadCell;
     std::string m_told; // "id.col.row.message=parameter", apart by blanks
     std::function<void(CStringList *)> m_onListOpens;
     std::function<void()> m_onTold;

@@ -54,6 +54,31 @@ TEST(DrawRulesTest, TextIsShortenedWhenItNeedsMoreThanTheCellAndSixPixels) {
     EXPECT_TRUE(UGNeedsEllipsis(rect, 45));
 }
 
+TEST(DrawRulesTest, LengthsGrowWithTheResolution) {
+    EXPECT_EQ(20, UGScaleToDpi(20, 96));
+    EXPECT_EQ(30, UGScaleToDpi(20, 144));
+    EXPECT_EQ(40, UGScaleToDpi(20, 192));
+    EXPECT_EQ(27, UGScaleToDpi(18, 144));
+    EXPECT_EQ(23, UGScaleToDpi(18, 120)); // rounded
+    EXPECT_EQ(18, UGScaleToDpi(18, 0));   // a device that does not know
+}
+
+TEST(DrawRulesTest, ALineIsNeverLowerThanItsTextNeeds) {
+    EXPECT_EQ(20, UGLineHeight(20, 96, 16));
+    EXPECT_EQ(18, UGLineHeight(18, 96, 16));
+    EXPECT_EQ(30, UGLineHeight(20, 144, 23));
+    EXPECT_EQ(42, UGLineHeight(20, 96, 40)); // a margin above and the grid line below
+}
+
+TEST(DrawRulesTest, APrintedFontKeepsItsProportionToTheRow) {
+    EXPECT_EQ(-13, UGPrintFontHeight(-13, 20, 20, 100));
+    EXPECT_EQ(-98, UGPrintFontHeight(-13, 150, 20, 100));
+    EXPECT_EQ(49, UGPrintFontHeight(13, 150, 20, 50));
+    EXPECT_EQ(26, UGPrintFontHeight(13, 150, 0, 200)); // no row to compare with
+    EXPECT_EQ(-1, UGPrintFontHeight(-13, 1, 100, 100));
+    EXPECT_EQ(1, UGPrintFontHeight(13, 0, 20, 100));
+}
+
 TEST(DragScrollTest, TheStepGrowsWithTheDistanceByMode) {
     EXPECT_EQ(0, UGDragSteps(50, 100, 20, 0, true));
     EXPECT_EQ(1, UGDragSteps(100, 100, 20, 3, true)); // within the first unit

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace {
 
 TEST(GridInfoTest, TheStateBlockStartsAsHostsExpect) {
@@ -83,6 +85,44 @@ TEST(GridInfoTest, InUniformModeAHeightIsEveryRowsHeight) {
     EXPECT_EQ(GRID_SUCCESS, info.GetRowHeight(9, &height));
     EXPECT_EQ(31, height);
     EXPECT_EQ(GRID_ERROR, info.GetRowHeight(10, &height));
+}
+
+std::string Sizes(const CUGGridInfo &info) {
+    return "col=" + std::to_string(info.m_cols.m_defaultSize) + " row=" + std::to_string(info.m_rows.m_defaultSize) +
+           " top=" + std::to_string(info.m_topHeadingHeight) + " side=" + std::to_string(info.m_sideHeadingWidth);
+}
+
+TEST(GridInfoTest, TheDefaultSizesFollowTheResolution) {
+    CUGGridInfo usual, fine;
+    usual.ScaleDefaults(96);
+    fine.ScaleDefaults(144);
+    EXPECT_EQ("col=100 row=20 top=20 side=50", Sizes(usual));
+    EXPECT_EQ("col=150 row=30 top=30 side=75", Sizes(fine));
+}
+
+TEST(GridInfoTest, SizesThatWereSetAreKept) {
+    CUGGridInfo info;
+    info.m_rows.m_defaultSize = 12;
+    info.m_sideHeadingWidth = 0;
+    info.ScaleDefaults(144);
+    info.FitDefaultsToText(40, 16);
+    EXPECT_EQ("col=150 row=12 top=30 side=0", Sizes(info));
+}
+
+TEST(GridInfoTest, RowsThatHaveTheDefaultHeightGrowWithIt) {
+    CUGGridInfo info;
+    info.ResizeRows(3);
+    info.SetRowHeight(1, 12);
+    info.FitDefaultsToText(30, 16);
+    EXPECT_EQ((std::vector<int>{32, 12, 32}), info.m_rows.m_sizes);
+}
+
+TEST(GridInfoTest, DefaultRowAndHeadingGrowToTheirTextAndDoNotShrink) {
+    CUGGridInfo info;
+    info.FitDefaultsToText(16, 16);
+    EXPECT_EQ("col=100 row=20 top=20 side=50", Sizes(info));
+    info.FitDefaultsToText(30, 25);
+    EXPECT_EQ("col=100 row=32 top=27 side=50", Sizes(info));
 }
 
 } // namespace
