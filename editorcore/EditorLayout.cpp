@@ -2,6 +2,8 @@
 
 #include "grid/UGDataSource.h"
 
+#include <vector>
+
 IMPLEMENT_DYNAMIC(CEditorLayout, CObject)
 
 namespace {
@@ -135,6 +137,23 @@ void CEditorLayout::SyncToFieldCount(int count) {
     }
     if (m_TableInfo.m_ColWidths.GetSize() < count)
         m_TableInfo.m_ColWidths.SetSize(count);
+}
+
+void CEditorLayout::CompletePositions(int count) {
+    CUIntArray whole;
+    std::vector<bool> placed(static_cast<size_t>(count), false);
+    const auto place = [&](UINT field) {
+        if (field < placed.size() && !placed[field]) {
+            placed[field] = true;
+            whole.Add(field);
+        }
+    };
+    CUIntArray &positions = m_TableInfo.m_ColPositions;
+    for (int i = 0; i < positions.GetSize(); ++i)
+        place(positions.GetAt(i));
+    for (int field = 0; field < count; ++field)
+        place(static_cast<UINT>(field));
+    positions.Copy(whole);
 }
 
 void CEditorLayout::AttachColourSet(const char *name, CPoint set) {

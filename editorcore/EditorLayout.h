@@ -48,6 +48,9 @@ public:
     void SetDisplayOrder(const CUIntArray &fields, int fieldCount);
     // Repairs the record against the source's number of fields.
     void SyncToFieldCount(int count);
+    // Leaves each field its first position and gives the missing ones the last: a damaged file must not put a field
+    // out of the user's reach.
+    void CompletePositions(int count);
 
     int GetFrozenCols() const { return m_TableInfo.m_nFrozenCols; }
     void SetFrozenCols(int count) { m_TableInfo.m_nFrozenCols = count; }

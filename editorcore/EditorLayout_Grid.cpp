@@ -11,8 +11,12 @@ bool CEditorLayout::FitsSource(CUGDataSource *source) {
     if (m_TableInfo.m_nRowHeight > 0) // a height of 0 would show no record at all
         m_pEditor->SetDefaultRowHeight(m_TableInfo.m_nRowHeight);
     SyncToFieldCount(count);
-    return count < 1 ||
-           (m_TableInfo.m_ColPositions.GetSize() == count && m_TableInfo.m_ColWidths.GetSize() == count);
+    if (count < 1)
+        return true;
+    if (m_TableInfo.m_ColPositions.GetSize() != count || m_TableInfo.m_ColWidths.GetSize() != count)
+        return false;
+    CompletePositions(count);
+    return true;
 }
 
 bool CEditorLayout::ApplyToGrid(CUGDataSource *source) {

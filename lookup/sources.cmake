@@ -1,6 +1,7 @@
 # What needs no window, compiled natively too.
 set(LOOKUP_MODEL_SOURCES
     Archive.cpp
+    ArchiveArrays.cpp
 )
 set(LOOKUP_NATIVE_SOURCES WideText_posix.cpp)
 set(LOOKUP_WINDOW_SOURCES WideText_win.cpp)

@@ -101,6 +101,15 @@ TEST_F(EditorLayoutTest, TheRecordIsRepairedAgainstTheNumberOfFields) {
     EXPECT_EQ("4 1 2 0 4 5", Positions()); // grown with its own next indexes
 }
 
+TEST_F(EditorLayoutTest, PositionsOfADamagedFileAreMadeWhole) {
+    CUIntArray shown, damaged;
+    for (UINT field : {3u, 900u, 3u, 1u})
+        damaged.Add(field);
+    m_layout.RestoreOrder(shown, damaged);
+    m_layout.CompletePositions(5);
+    EXPECT_EQ("3 1 0 2 4", Positions());
+}
+
 TEST_F(EditorLayoutTest, ColourSetsComeAndGoByName) {
     EXPECT_EQ(-1, m_layout.GetColourSet("Name").x);
     m_layout.AttachColourSet("Name", CPoint(3, 4));
