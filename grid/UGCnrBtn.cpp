@@ -2,6 +2,8 @@
 
 #include "grid/UGCtrl.h"
 
+#include <utility>
+
 IMPLEMENT_DYNAMIC(CUGCnrBtn, CWnd)
 
 BEGIN_MESSAGE_MAP(CUGCnrBtn, CWnd)
@@ -13,6 +15,7 @@ BEGIN_MESSAGE_MAP(CUGCnrBtn, CWnd)
     ON_WM_LBUTTONDBLCLK()
     ON_WM_RBUTTONDOWN()
     ON_WM_RBUTTONUP()
+    ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
 
 namespace {
@@ -111,16 +114,22 @@ void CUGCnrBtn::OnLButtonDown(UINT, CPoint point) {
 }
 
 void CUGCnrBtn::OnLButtonUp(UINT, CPoint) {
+    const bool resizing = std::exchange(m_resizing, false);
     if (GetCapture() == this)
         ReleaseCapture();
-    if (!m_resizing) {
+    if (!resizing) {
         m_ctrl->OnCB_LClicked(0);
         return;
     }
-    m_resizing = false;
     m_ctrl->Update();
     int width = -1; // the sizes stand in the control already; no column was dragged
     m_ctrl->OnColSized(-1, &width);
+}
+
+void CUGCnrBtn::OnCaptureChanged(CWnd *next) {
+    if (next != this)
+        m_resizing = false;
+    CWnd::OnCaptureChanged(next);
 }
 
 void CUGCnrBtn::OnLButtonDblClk(UINT, CPoint) {

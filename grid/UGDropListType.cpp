@@ -56,6 +56,12 @@ int CUGDropListType::OnKeyDown(UINT *key) {
     return UGCT_HANDLED;
 }
 
+// The list belongs to the cell: what is chosen must not end up in another one.
+int CUGDropListType::OnKillFocus(int col, long row, CUGCell *cell) {
+    m_list.Close();
+    return CUGButtonType::OnKillFocus(col, row, cell);
+}
+
 // Each line that a line feed ends is an item; text behind the last line feed is none.
 void CUGDropListType::SplitLabel(const char *label, CStringList *items) {
     const CString text(label);

@@ -50,7 +50,19 @@ void CUGGrid::SetDoubleBuffer(bool on) {
     m_bufferSize = CSize(0, 0);
 }
 
+// The view may have changed without a move: a table that shrank takes its leading row along. What stands on the
+// screen then fits nowhere, and shifting it later would only carry it along.
+void CUGGrid::SyncShown() {
+    if (m_shownLeft == m_GI->m_cols.m_leading && m_shownTop == m_GI->m_rows.m_leading)
+        return;
+    m_shownLeft = static_cast<int>(m_GI->m_cols.m_leading);
+    m_shownTop = m_GI->m_rows.m_leading;
+    Invalidate(FALSE);
+}
+
 void CUGGrid::OnPaint() {
+    if (m_GI->m_paintingEnabled)
+        SyncShown();
     CPaintDC dc(this);
     if (!m_GI->m_paintingEnabled)
         return;
@@ -140,8 +152,7 @@ void CUGGrid::InvalidateSelection() {
         if (left > right || top > bottom)
             continue;
         const RECT rect = {m_GI->m_cols.PositionOf(left), m_GI->m_rows.PositionOf(top),
-                           m_GI->m_cols.PositionOf(right) + m_GI->m_cols.SizeOf(right),
-                           m_GI->m_rows.PositionOf(bottom) + m_GI->m_rows.SizeOf(bottom)};
+                           m_GI->m_cols.PositionOf(right + 1), m_GI->m_rows.PositionOf(bottom + 1)};
         InvalidateRect(&rect, FALSE);
     }
 }

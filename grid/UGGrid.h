@@ -23,10 +23,15 @@ public:
     // Marks every visible cell of the selected blocks for repaint.
     void InvalidateSelection();
     void SetDoubleBuffer(bool on);
+    // From the button going down until it is up again, or something else takes the mouse.
+    bool HoldsMouse() const { return m_captured; }
+    // The type that wants the mouse moves meanwhile; null for none.
+    CUGCellType *Tracker() const { return m_tracker; }
 
     CUGCtrl *m_ctrl = nullptr; // both borrowed, set by the control
     CUGGridInfo *m_GI = nullptr;
     CUGEdit m_edit;
+    bool m_dragStarted = false; // a notification dragged something out: the button is up again
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT &create) override;
@@ -68,6 +73,8 @@ private:
 
     void GoByMouse(int moveType, int col, long row);
     int PressOnType(int col, long row, RECT *rect, POINT *point);
+    void HoldMouse();
+    void SyncShown();
     void DragTo(CPoint point);
     void DragScroll(CPoint point);
     bool DragStep(CPoint point);

@@ -15,9 +15,9 @@ void CUGGrid::DrawAll(CDC *dc, const RECT &clip) {
     int bottom = 0;
     long lastDrawn = -1;
     if (m_GI->m_cols.m_count > 0) {
-        for (long row = rows.m_leading; row < rows.m_count && bottom < rows.m_extent; ++row) {
+        for (long row = rows.m_leading; row < rows.m_count && bottom < rows.m_extent && !rows.AllHidden(); ++row) {
             const int top = bottom;
-            bottom += rows.SizeOf(row);
+            bottom = static_cast<int>(rows.EndOf(top, row));
             lastDrawn = row;
             if (bottom > clip.top && top < clip.bottom && bottom > top)
                 DrawRow(pass, row, top, bottom);
@@ -25,7 +25,7 @@ void CUGGrid::DrawAll(CDC *dc, const RECT &clip) {
     }
     const CUGAxis &cols = m_GI->m_cols;
     const long lastCol = cols.LastVisible();
-    const long right = lastCol < 0 || lastDrawn < 0 ? 0 : cols.PositionOf(lastCol) + cols.SizeOf(lastCol);
+    const long right = lastCol < 0 || lastDrawn < 0 ? 0 : cols.PositionOf(lastCol + 1);
     FillBeyond(dc, static_cast<int>(right), bottom);
     DrawFocusFrame(dc);
     if (oldFont != nullptr)
@@ -44,7 +44,7 @@ void CUGGrid::DrawRow(Pass &pass, long row, int top, int bottom) {
     int right = 0;
     for (long col = cols.m_leading; col < cols.m_count && right < cols.m_extent; ++col) {
         const int left = right;
-        right += cols.SizeOf(col);
+        right = static_cast<int>(cols.EndOf(left, col));
         const RECT rect = {left, top, right, bottom};
         if (right > left && right > pass.clip.left && left < pass.clip.right &&
             ::RectVisible(pass.dc->GetSafeHdc(), &rect))
@@ -55,8 +55,8 @@ void CUGGrid::DrawRow(Pass &pass, long row, int top, int bottom) {
 void CUGGrid::DrawCell(Pass &pass, int col, long row, RECT rect) {
     m_cell.ClearAll();
     m_ctrl->GetCell(col, row, &m_cell);
-    if (m_cell.IsJoined()) {
-        const std::pair origin(m_cell.GetJoinOriginCol(), m_cell.GetJoinOriginRow());
+    std::pair<int, long> origin;
+    if (m_ctrl->GetJoinOrigin(m_cell, col, row, &origin.first, &origin.second)) {
         if (std::find(pass.joinsDrawn.begin(), pass.joinsDrawn.end(), origin) != pass.joinsDrawn.end())
             return;
         pass.joinsDrawn.push_back(origin);
