@@ -234,6 +234,8 @@ std::string Edit(ProbedGrid &grid) {
     // Without the suppress flag a box that lost the focus has finished and gone.
     if (!grid.EditPart().m_active)
         return "an edit that owes nothing is open";
+    if (grid.m_readsFail)
+        return "";
     CRect box, cell;
     ::GetWindowRect(edit, &box);
     ::MapWindowPoints(nullptr, grid.Cells(), reinterpret_cast<POINT *>(&box), 2);

@@ -13,6 +13,7 @@ public:
     const CUGSideHdg &SideHeadingPart() const { return m_sideHdg; }
     const CUGCnrBtn &CornerPart() const { return m_cornerBtn; }
     const CUGEdit &EditPart() const { return m_grid.m_edit; }
+    bool m_readsFail = false; // a cell that cannot be read is told as one that is not joined
     HWND List() const { return ::GetDlgItem(m_hWnd, 238); }
 };
 

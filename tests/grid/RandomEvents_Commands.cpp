@@ -242,6 +242,7 @@ void RandomEvents::Misfortune() {
     const bool fails = m_random.OneIn(3), vetoes = m_random.OneIn(3);
     Say("sources fail %d, notifications veto %d", fails, vetoes);
     m_first.m_fails = m_second.m_fails = fails;
+    m_grid.m_readsFail = fails;
     m_grid.m_vetoing = vetoes;
     m_grid.RedrawAll();
 }

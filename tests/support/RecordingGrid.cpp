@@ -13,6 +13,8 @@ int RecordingGrid::Note(const char *name, std::initializer_list<long> arguments)
         between = ",";
     }
     m_events.push_back(event + ")");
+    if (m_log != nullptr)
+        m_log->Note(m_events.back());
     return m_vetoes.count(name) != 0 ? 0 : 1;
 }
 

@@ -1,6 +1,8 @@
 // RecordingGrid: a grid control that notes every notification and can be told to veto.
 #pragma once
 
+#include "RecordingSource.h"
+
 #include "grid/UGCtrl.h"
 
 #include <functional>
@@ -30,6 +32,7 @@ public:
     std::string Text(int col, long row);
 
     std::vector<std::string> m_events;
+    CallLog *m_log = nullptr; // borrowed; gets the events as well, among the calls of others
     std::set<std::string> m_vetoes;  // names of notifications that answer 0
     bool m_notesGetCell = false;     // it comes with every paint
     bool m_notesViewChanges = false; // LeftColChange and TopRowChange
