@@ -76,6 +76,8 @@ void RecordingGrid::OnColSizing(int col, int *width) {
 
 void RecordingGrid::OnCellChange(int oldCol, int newCol, long oldRow, long newRow) {
     Note("CellChange", {oldCol, newCol, oldRow, newRow});
+    if (m_onCellChanged)
+        m_onCellChanged();
 }
 
 void RecordingGrid::OnLeftColChange(int oldCol, int newCol) {

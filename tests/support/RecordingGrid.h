@@ -50,6 +50,7 @@ public:
     std::function<void()> m_onHitTop;
     std::function<void()> m_onLClicked;
     std::function<void()> m_onCanMove;
+    std::function<void()> m_onCellChanged;
     std::function<void(CUGHint *)> m_onHint;
 
     void OnSetup() override { Note("Setup", {}); }
