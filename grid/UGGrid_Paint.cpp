@@ -100,7 +100,9 @@ void CUGGrid::DrawFocusFrame(CDC *dc) {
     rect.bottom -= 1;
     dc->SetTextColor(0);
     dc->SetBkColor(RGB(255, 255, 255));
-    dc->DrawFocusRect(&rect);
-    ::InflateRect(&rect, -1, -1);
-    dc->DrawFocusRect(&rect);
+    // In a cell too small for it a frame would turn inside out and leave lines in the cells around.
+    for (int frame = 0; frame < 2 && rect.left < rect.right && rect.top < rect.bottom; ++frame) {
+        dc->DrawFocusRect(&rect);
+        ::InflateRect(&rect, -1, -1);
+    }
 }

@@ -12,8 +12,12 @@ void RandomGrid::EndDrag() {
 
 int RandomGrid::Note(const char *name, std::initializer_list<long>) {
     const bool move = std::strcmp(name, "CanMove") == 0;
-    if (m_dragStepsLeft > 0 && (move || std::strncmp(name, "Hit", 3) == 0) && --m_dragStepsLeft == 0)
-        EndDrag();
+    const bool hit = std::strncmp(name, "Hit", 3) == 0;
+    if (m_dragStepsLeft > 0 && (move || hit)) {
+        m_dragStepsLeft = hit ? 0 : m_dragStepsLeft - 1; // behind an end no further step is made
+        if (m_dragStepsLeft == 0)
+            EndDrag();
+    }
     if (!m_vetoing)
         return 1;
     // What a host does that drops an empty record as it is left, or answers a move by showing less.
@@ -120,7 +124,19 @@ bool RandomEvents::ScreenIsStale() {
     for (size_t i = 0; i < std::size(windows); ++i) {
         ::InvalidateRect(windows[i], nullptr, FALSE);
         ::UpdateWindow(windows[i]);
-        if (before[i] != Pixels(windows[i])) {
+        const std::vector<BYTE> now = Pixels(windows[i]);
+        if (before[i] != now) {
+            if (std::getenv("DUMPSCREEN")) {
+                CRect c; ::GetClientRect(windows[i], &c);
+                for (int k = 0; k < 2; ++k) {
+                    FILE *f = std::fopen(k ? "/tmp/now.ppm" : "/tmp/before.ppm", "wb");
+                    std::fprintf(f, "P6\n%d %d\n255\n", c.Width(), c.Height());
+                    const auto &v = k ? now : before[i];
+                    for (int y = c.Height() - 1; y >= 0; --y) for (int x = 0; x < c.Width(); ++x) { const BYTE *p = &v[4 * (y * c.Width() + x)]; std::fputc(p[2], f); std::fputc(p[1], f); std::fputc(p[0], f); }
+                    std::fclose(f);
+                }
+                std::printf("STATE %s style=%d hl=%d multi=%d db=%d edit=%p\n", m_grid.State().c_str(), m_grid.m_GI.m_currentCellStyle, m_grid.m_GI.m_rowHighlight, m_grid.m_GI.m_multiSelect, 0, (void *)m_grid.Edit());
+            }
             m_text += " [window " + std::to_string(i) + "]";
             return true;
         }

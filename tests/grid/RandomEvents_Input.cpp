@@ -2,6 +2,7 @@
 #include "RandomEvents.h"
 
 #include <algorithm>
+#include <utility>
 
 CPoint RandomEvents::PointInCells() {
     CRect current;
@@ -147,23 +148,23 @@ void RandomEvents::Drag() {
     m_text = "drag from " + from;
 }
 
+// Always above or below: every step along rows asks for a move or hits an end, which is counted, so that the
+// end of the drag depends on no time.
 void RandomEvents::DragOutside() {
     const CPoint from = PointInCells();
     const int x = m_random.Of({-40, 20, m_grid.m_GI.m_cols.m_extent + 120});
-    const int y = m_random.Of({-70, 20, m_grid.m_GI.m_rows.m_extent + 90});
-    const int mode = m_random.Below(4);
+    const int y = m_random.Of({-70, m_grid.m_GI.m_rows.m_extent + 90});
+    const int mode = m_random.Below(4), steps = m_random.Between(1, 4);
     Say("drag outside from %ld,%ld to %d,%d in mode %d", from.x, from.y, x, y, mode);
+    if (m_grid.GetNumberRows() == 0 || m_grid.GetNumberCols() == 0)
+        return;
+    const bool vetoing = std::exchange(m_grid.m_vetoing, false);
     m_grid.SetBallisticMode(mode);
     PressLeft(m_grid.Cells(), from.x, from.y);
-    m_grid.m_dragStepsLeft = m_random.Between(1, 4);
-    // Where nothing moves and nothing is hit the loop waits for messages. The timer ends it; by then nothing
-    // happens any more, so that the run stays the same.
-    const UINT_PTR timer = ::SetTimer(m_grid.Cells(), 77, 10, [](HWND cells, UINT, UINT_PTR, DWORD) {
-        ::PostMessageA(cells, WM_LBUTTONUP, 0, MAKELPARAM(10, 10));
-    });
+    m_grid.m_dragStepsLeft = steps;
     MoveMouse(m_grid.Cells(), x, y, MK_LBUTTON);
-    ::KillTimer(m_grid.Cells(), timer);
     m_grid.m_dragStepsLeft = 0;
+    m_grid.m_vetoing = vetoing;
     PumpAll();
     ReleaseLeft(m_grid.Cells(), from.x, from.y);
 }
