@@ -69,6 +69,7 @@ private:
     void PaintBuffered(CDC *dc, const RECT &clip);
     void RequestRowsBelow(long lastDrawn);
     void InvalidateCurrent(int col, long row);
+    void InvalidateCells(long left, long top, long right, long bottom);
     bool ScrollImage(int dx, int dy);
 
     void GoByMouse(int moveType, int col, long row);

@@ -4,6 +4,12 @@
 
 #include <algorithm>
 
+namespace {
+
+constexpr int kSmallCellPx = 10; // lower or narrower cells are drawn clipped
+
+} // namespace
+
 void CUGGrid::DrawAll(CDC *dc, const RECT &clip) {
     HGDIOBJ oldFont = nullptr;
     if (m_GI->m_defaultFont != nullptr)
@@ -72,8 +78,15 @@ void CUGGrid::DrawCell(Pass &pass, int col, long row, RECT rect) {
     const bool selected = m_GI->m_multiSelect ? !isCell && m_GI->m_selection.IsSelected(col, row)
                                               : m_GI->m_rowHighlight && currentRow;
     CUGCellType *type = m_ctrl->GetCellType(m_cell.GetCellType());
+    // Signs and frames do not shrink below some pixels: in a small cell they would end up in the ones around.
+    const bool small = rect.right - rect.left < kSmallCellPx || rect.bottom - rect.top < kSmallCellPx;
+    const int saved = small ? ::SaveDC(pass.dc->GetSafeHdc()) : 0;
+    if (small)
+        ::IntersectClipRect(pass.dc->GetSafeHdc(), rect.left, rect.top, rect.right, rect.bottom);
     type->DrawBorder(pass.dc, &rect, &m_cell);
     type->OnDraw(pass.dc, &rect, &m_cell, selected, current);
+    if (small)
+        ::RestoreDC(pass.dc->GetSafeHdc(), saved);
 }
 
 // What no cell covers has the back colour of the headings.

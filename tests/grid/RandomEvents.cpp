@@ -126,17 +126,6 @@ bool RandomEvents::ScreenIsStale() {
         ::UpdateWindow(windows[i]);
         const std::vector<BYTE> now = Pixels(windows[i]);
         if (before[i] != now) {
-            if (std::getenv("DUMPSCREEN")) {
-                CRect c; ::GetClientRect(windows[i], &c);
-                for (int k = 0; k < 2; ++k) {
-                    FILE *f = std::fopen(k ? "/tmp/now.ppm" : "/tmp/before.ppm", "wb");
-                    std::fprintf(f, "P6\n%d %d\n255\n", c.Width(), c.Height());
-                    const auto &v = k ? now : before[i];
-                    for (int y = c.Height() - 1; y >= 0; --y) for (int x = 0; x < c.Width(); ++x) { const BYTE *p = &v[4 * (y * c.Width() + x)]; std::fputc(p[2], f); std::fputc(p[1], f); std::fputc(p[0], f); }
-                    std::fclose(f);
-                }
-                std::printf("STATE %s style=%d hl=%d multi=%d db=%d edit=%p\n", m_grid.State().c_str(), m_grid.m_GI.m_currentCellStyle, m_grid.m_GI.m_rowHighlight, m_grid.m_GI.m_multiSelect, 0, (void *)m_grid.Edit());
-            }
             m_text += " [window " + std::to_string(i) + "]";
             return true;
         }
