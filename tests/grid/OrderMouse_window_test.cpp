@@ -220,8 +220,7 @@ TEST_F(OrderMouseTest, ARightClickOutsideCells) {
     EXPECT_EQ("RClicked(-1,-1,1,0) MenuStart(-1,-1,1) RClicked(-1,-1,0,0)", Taken());
 }
 
-TEST_F(OrderMouseTest, TheDropAsksInItsOrder) {
-    // Entering, moving and dropping are asked of the control by its target; the base class refuses.
+TEST_F(OrderMouseTest, TheBaseRefusesDrops) {
     Fill(2, 3);
     EXPECT_EQ(DROPEFFECT(DROPEFFECT_NONE), m_grid.CUGCtrl::OnDragEnter(nullptr));
     EXPECT_EQ(DROPEFFECT(DROPEFFECT_NONE), m_grid.CUGCtrl::OnDragOver(nullptr, 0, 0));
