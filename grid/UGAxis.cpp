@@ -3,12 +3,17 @@
 #include <algorithm>
 
 long CUGAxis::Span(long first, long end) const {
+    long long sum = 0;
     if (m_uniform)
-        return (end - first) * m_defaultSize;
-    long sum = 0;
-    for (long index = first; index < end; ++index)
-        sum += m_sizes[index];
-    return sum;
+        sum = static_cast<long long>(end - first) * m_defaultSize;
+    else
+        for (long index = first; index < end; ++index)
+            sum += m_sizes[index];
+    return static_cast<long>(std::min<long long>(sum, kFarPx));
+}
+
+long CUGAxis::EndOf(long begin, long index) const {
+    return static_cast<long>(std::min<long long>(static_cast<long long>(begin) + SizeOf(index), kFarPx));
 }
 
 long CUGAxis::PositionOf(long index) const {
@@ -17,8 +22,8 @@ long CUGAxis::PositionOf(long index) const {
 
 long CUGAxis::At(int position, int *start) const {
     long begin = 0;
-    for (long index = m_leading; index < m_count; ++index) {
-        const long end = begin + SizeOf(index);
+    for (long index = m_leading; index < m_count && !AllHidden(); ++index) {
+        const long end = EndOf(begin, index);
         if (position < end) {
             if (start != nullptr)
                 *start = static_cast<int>(begin);
@@ -32,17 +37,17 @@ long CUGAxis::At(int position, int *start) const {
 }
 
 long CUGAxis::LastVisible() const {
-    if (m_count == 0)
-        return -1;
+    if (m_count == 0 || AllHidden())
+        return m_count - 1;
     long index = std::min(m_leading, m_count - 1);
-    for (long end = SizeOf(index); end < m_extent && index + 1 < m_count;)
-        end += SizeOf(++index);
+    for (long end = EndOf(0, index); end < m_extent && index + 1 < m_count;)
+        end = EndOf(end, ++index);
     return index;
 }
 
 long CUGAxis::ComputeMaxLeading() const {
     long room = m_extent;
-    for (long index = m_count - 1; index >= 0; --index) {
+    for (long index = m_count - 1; index >= 0 && !AllHidden(); --index) {
         room -= SizeOf(index);
         if (room < 0)
             return std::min(index + 1, m_count - 1);
@@ -57,7 +62,7 @@ long CUGAxis::LeadingForCurrent(int margin) const {
     }
     long least = 0;
     long room = m_extent;
-    for (long index = std::min(m_current + margin, m_count) - 1; index >= 0; --index) {
+    for (long index = std::min(m_current + margin, m_count) - 1; index >= 0 && !AllHidden(); --index) {
         room -= SizeOf(index);
         if (room < 0) {
             least = index + 1;
@@ -68,6 +73,8 @@ long CUGAxis::LeadingForCurrent(int margin) const {
 }
 
 long CUGAxis::PageForward(long from) const {
+    if (AllHidden())
+        return std::max(m_count - 1, from + 1);
     long room = m_extent;
     long index = from;
     for (; index < m_count; ++index) {
@@ -79,8 +86,10 @@ long CUGAxis::PageForward(long from) const {
 }
 
 long CUGAxis::PageBack(long from) const {
+    if (AllHidden())
+        return std::min(0L, from - 1);
     long room = m_extent;
-    long index = from;
+    long index = std::min(from, m_count - 1);
     for (; index >= 0; --index) {
         room -= SizeOf(index);
         if (room < 0)
@@ -91,8 +100,10 @@ long CUGAxis::PageBack(long from) const {
 
 long CUGAxis::EdgeAt(int position, int tolerance, int *start) const {
     long begin = 0;
+    if (AllHidden())
+        return m_count > 0 && position > -tolerance && position < tolerance ? m_count - 1 : -1;
     for (long index = m_leading; index < m_count; ++index) {
-        long edge = begin + SizeOf(index);
+        long edge = EndOf(begin, index);
         if (position <= edge - tolerance)
             return -1;
         if (position < edge + tolerance) {

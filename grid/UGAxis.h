@@ -6,6 +6,10 @@
 
 #include <vector>
 
+// Positions further away than this are told as this far: sums of sizes do not overflow, and nothing is in view
+// there.
+constexpr long kFarPx = 1L << 29;
+
 struct ORVANE_API CUGAxis {
     long m_count = 0;
     long m_current = 0;
@@ -21,10 +25,13 @@ struct ORVANE_API CUGAxis {
     int SizeOf(long index) const { return m_uniform ? m_defaultSize : m_sizes[index]; }
     bool Contains(long index) const { return index >= 0 && index < m_count; }
 
-    // Sum of the sizes of [first, end).
+    // Uniform and of no size: nothing of any number of them is in view.
+    bool AllHidden() const { return m_uniform && m_defaultSize == 0; }
+
+    // Sum of the sizes of [first, end), at most kFarPx.
     long Span(long first, long end) const;
 
-    // Pixel at which `index` begins, negative in front of the view.
+    // Pixel at which `index` begins, negative in front of the view. The count itself is where the last one ends.
     long PositionOf(long index) const;
 
     // The one under the pixel, and where it begins; -1 behind the last. Walks from the leading one.
@@ -50,6 +57,9 @@ struct ORVANE_API CUGAxis {
     // following ones are narrower than the tolerance the last of them answers, so that a hidden one can be
     // pulled open.
     long EdgeAt(int position, int tolerance, int *start = nullptr) const;
+
+    // Where the one ends that begins at `begin`.
+    long EndOf(long begin, long index) const;
 
     // Holds current and leading in range after a change of the count. True when the current one had to move.
     bool ClampToCount();

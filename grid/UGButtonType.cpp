@@ -2,6 +2,8 @@
 
 #include "grid/UGCtrl.h"
 
+#include <utility>
+
 int CUGButtonType::ButtonWidth() {
     return ::GetSystemMetrics(SM_CXVSCROLL);
 }
@@ -30,10 +32,12 @@ void CUGButtonType::PressCell(int col, long row, const RECT &cell) {
     m_ctrl->RedrawCell(col, row);
 }
 
+// A button that was still pressed comes up, on the screen too.
 void CUGButtonType::ForgetCell() {
-    m_btnCol = -1;
-    m_btnRow = -1;
-    m_pressed = false;
+    const int col = std::exchange(m_btnCol, -1);
+    const long row = std::exchange(m_btnRow, -1);
+    if (std::exchange(m_pressed, false))
+        m_ctrl->RedrawCell(col, row);
 }
 
 void CUGButtonType::DrawTextBeside(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current) {
@@ -50,4 +54,11 @@ void CUGButtonType::DrawFace(CDC *dc, const RECT &button, bool pressed) {
     RECT face = button;
     dc->FillSolidRect(&face, ::GetSysColor(COLOR_BTNFACE));
     ::DrawEdge(dc->GetSafeHdc(), &face, pressed ? BDR_SUNKENOUTER : BDR_RAISEDINNER, BF_RECT);
+}
+
+void CUGButtonType::DrawControl(CDC *dc, RECT rect, UINT kind, UINT state) {
+    const int saved = ::SaveDC(dc->GetSafeHdc());
+    ::IntersectClipRect(dc->GetSafeHdc(), rect.left, rect.top, rect.right, rect.bottom);
+    ::DrawFrameControl(dc->GetSafeHdc(), &rect, kind, state);
+    ::RestoreDC(dc->GetSafeHdc(), saved);
 }

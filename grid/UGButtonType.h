@@ -22,6 +22,8 @@ protected:
     // Draws the cell without the button, then the button's face, raised or pressed.
     void DrawTextBeside(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current);
     static void DrawFace(CDC *dc, const RECT &button, bool pressed);
+    // One of the system's controls, clipped: in a low cell their signs reach beyond the rectangle.
+    static void DrawControl(CDC *dc, RECT rect, UINT kind, UINT state);
 
     bool m_pressed = false;
     RECT m_btnRect{};  // of the cell that was pressed, in grid coordinates

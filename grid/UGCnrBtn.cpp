@@ -1,6 +1,9 @@
 #include "grid/UGCnrBtn.h"
 
 #include "grid/UGCtrl.h"
+#include "grid/UGPlacing.h"
+
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CUGCnrBtn, CWnd)
 
@@ -13,14 +16,8 @@ BEGIN_MESSAGE_MAP(CUGCnrBtn, CWnd)
     ON_WM_LBUTTONDBLCLK()
     ON_WM_RBUTTONDOWN()
     ON_WM_RBUTTONUP()
+    ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
-
-namespace {
-
-constexpr int kEdgePx = 5;   // from one edge: that heading is sized
-constexpr int kCornerPx = 8; // from both edges: both are
-
-} // namespace
 
 BOOL CUGCnrBtn::PreCreateWindow(CREATESTRUCT &create) {
     if (create.lpszClass == nullptr)
@@ -58,14 +55,11 @@ void CUGCnrBtn::OnPaint() {
 }
 
 void CUGCnrBtn::LookForEdge(CPoint point) {
-    const int fromBottom = m_GI->m_topHeadingHeight - point.y;
-    const int fromRight = m_GI->m_sideHeadingWidth - point.x;
-    const bool corner = fromBottom <= kCornerPx && fromRight <= kCornerPx;
-    const bool height = (corner || fromBottom <= kEdgePx) && m_ctrl->OnCanSizeTopHdg();
-    const bool width = (corner || fromRight <= kEdgePx) && m_ctrl->OnCanSizeSideHdg();
-    const bool both = corner && height && width;
-    m_sizeHeight = both || (height && fromBottom <= kEdgePx);
-    m_sizeWidth = both || (width && fromRight <= kEdgePx);
+    const UGCornerZone zone(m_GI->m_topHeadingHeight - point.y, m_GI->m_sideHeadingWidth - point.x);
+    const bool height = zone.AsksHeight() && m_ctrl->OnCanSizeTopHdg();
+    const bool width = zone.AsksWidth() && m_ctrl->OnCanSizeSideHdg();
+    m_sizeHeight = zone.SizesHeight(height, width);
+    m_sizeWidth = zone.SizesWidth(height, width);
     LPCSTR cursor = IDC_ARROW;
     if (m_sizeHeight && m_sizeWidth)
         cursor = IDC_SIZENWSE;
@@ -111,16 +105,22 @@ void CUGCnrBtn::OnLButtonDown(UINT, CPoint point) {
 }
 
 void CUGCnrBtn::OnLButtonUp(UINT, CPoint) {
+    const bool resizing = std::exchange(m_resizing, false);
     if (GetCapture() == this)
         ReleaseCapture();
-    if (!m_resizing) {
+    if (!resizing) {
         m_ctrl->OnCB_LClicked(0);
         return;
     }
-    m_resizing = false;
     m_ctrl->Update();
     int width = -1; // the sizes stand in the control already; no column was dragged
     m_ctrl->OnColSized(-1, &width);
+}
+
+void CUGCnrBtn::OnCaptureChanged(CWnd *next) {
+    if (next != this)
+        m_resizing = false;
+    CWnd::OnCaptureChanged(next);
 }
 
 void CUGCnrBtn::OnLButtonDblClk(UINT, CPoint) {

@@ -12,6 +12,9 @@ class ORVANE_API CUGCnrBtn : public CWnd {
     DECLARE_DYNAMIC(CUGCnrBtn)
 
 public:
+    // One of the headings' sizes is being dragged.
+    bool IsResizing() const { return m_resizing; }
+
     CUGCtrl *m_ctrl = nullptr; // both borrowed, set by the control
     CUGGridInfo *m_GI = nullptr;
 
@@ -26,6 +29,7 @@ protected:
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd *next);
 
 private:
     void LookForEdge(CPoint point);

@@ -133,23 +133,24 @@ bool CUGCtrl::FitAxes(int width, int height) {
     return changed;
 }
 
+// In a client area that is too small for them the bars come first and the headings get what is left.
 void CUGCtrl::PlaceChildren(int width, int height) {
-    const int side = m_GI.m_sideHeadingWidth;
-    const int top = m_GI.m_topHeadingHeight;
+    const int right = std::max(width - (m_GI.m_vScrollShown ? m_GI.m_vScrollWidth : 0), 0);
+    const int barTop = std::max(height - (m_GI.m_hScrollShown ? m_GI.m_hScrollHeight : 0), 0);
+    const int side = std::min(m_GI.m_sideHeadingWidth, right);
+    const int top = std::min(m_GI.m_topHeadingHeight, barTop);
     const int cellsX = m_GI.m_cols.m_extent;
     const int cellsY = m_GI.m_rows.m_extent;
-    const int barTop = height - (m_GI.m_hScrollShown ? m_GI.m_hScrollHeight : 0);
     m_cornerBtn.MoveWindow(0, 0, side, top);
     m_topHdg.MoveWindow(side, 0, cellsX, top);
     m_sideHdg.MoveWindow(0, top, side, cellsY);
     m_grid.MoveWindow(side, top, cellsX, cellsY);
     if (m_GI.m_vScrollShown)
-        m_vScroll.MoveWindow(width - m_GI.m_vScrollWidth, 0, m_GI.m_vScrollWidth, barTop);
+        m_vScroll.MoveWindow(right, 0, width - right, barTop);
     if (m_GI.m_hScrollShown) {
-        const int right = std::max(width - (m_GI.m_vScrollShown ? m_GI.m_vScrollWidth : 0), 0);
         const int tabs = std::min(m_GI.m_tabWidth, right);
-        m_hScroll.MoveWindow(tabs, barTop, right - tabs, m_GI.m_hScrollHeight);
-        m_tab.MoveWindow(0, barTop, tabs, m_GI.m_hScrollHeight);
+        m_hScroll.MoveWindow(tabs, barTop, right - tabs, height - barTop);
+        m_tab.MoveWindow(0, barTop, tabs, height - barTop);
     }
     m_vScroll.ShowWindow(m_GI.m_vScrollShown ? SW_SHOWNA : SW_HIDE);
     m_hScroll.ShowWindow(m_GI.m_hScrollShown ? SW_SHOWNA : SW_HIDE);
@@ -163,8 +164,7 @@ void CUGCtrl::AdjustComponents() {
     CRect client;
     GetClientRect(&client);
     FitAxes(client.Width(), client.Height());
-    m_GI.m_rows.m_leading = std::min(m_GI.m_rows.m_leading, m_GI.m_rows.m_maxLeading);
-    m_GI.m_cols.m_leading = std::min(m_GI.m_cols.m_leading, m_GI.m_cols.m_maxLeading);
+    HoldLeadingInRange();
     PlaceChildren(client.Width(), client.Height());
     m_vScroll.UpdateRange();
     m_hScroll.UpdateRange();

@@ -176,6 +176,9 @@ public:
     int GetCellFromPoint(int x, int y, int *col, long *row, RECT *rect = nullptr);
     // The whole block of a joined cell, or the cell alone.
     void GetJoinRange(int col, long row, int *startCol, long *startRow, int *endCol, long *endRow);
+    // Where the block of a joined cell begins, as the cell that was read at the place says. False for a cell
+    // alone, and where the origin lies behind the cell or outside the table.
+    bool GetJoinOrigin(const CUGCell &cell, int col, long row, int *originCol, long *originRow) const;
 
     // --- Conduct
     int EnableRowHighlight(int mode);
@@ -302,8 +305,9 @@ private:
     int TextHeight(HFONT font); // of a line; null for the system's font
     bool CreateChildren();
     void AdjustComponents();
-    void AdjustAxis(CUGAxis &axis);
+    void AdjustAxes();
     bool FitAxes(int width, int height);
+    void HoldLeadingInRange();
     void PlaceChildren(int width, int height);
     int VerifyCurrentRow(long row);
     int VerifyTopRow(long row);
@@ -312,6 +316,9 @@ private:
     long StepOverJoin(bool rows, long target);
     void UpdateSelection();
     void UpdateFocusedType(int lastCol, long lastRow);
+    CUGCellType *FocusedType();
+    void LeaveLostCells();
+    void PlaceEdit();
     void RepaintViews();
     CUGDataSource *SourceOfColumn(int col, int *dataCol);
     int TranslatedColumn(int col);
@@ -323,6 +330,7 @@ private:
     std::vector<CUGCellType *> m_cellTypes;          // borrowed, entries may be null
     std::vector<std::unique_ptr<CUGCellType>> m_builtInTypes;
     CUGCell m_scratch;
+    bool m_typeFocused = false; // the snapshot's type has been given the focus
     CMenu m_popupMenu;
     int m_menuCol = -1;
     long m_menuRow = -1;

@@ -15,7 +15,9 @@ int StoreUpTo(int *setting, int value, int limit) {
 } // namespace
 
 int CUGCtrl::SetCurrentCellStyle(int style) {
-    return StoreUpTo(&m_GI.m_currentCellStyle, style, 3);
+    const int result = StoreUpTo(&m_GI.m_currentCellStyle, style, 3);
+    RedrawAll();
+    return result;
 }
 
 int CUGCtrl::SetVScrollMode(int mode) {
@@ -49,8 +51,11 @@ int CUGCtrl::EnableColTranslation(int enable) {
 
 int CUGCtrl::EnablePainting(int enable) {
     m_GI.m_paintingEnabled = enable != 0;
-    if (enable)
+    if (enable) {
         RedrawAll();
+        m_vScroll.UpdateRange(); // the bars stood still as well
+        m_hScroll.UpdateRange();
+    }
     return GRID_SUCCESS;
 }
 
@@ -90,6 +95,7 @@ int CUGCtrl::SetDefaultFont(CFont *font) {
 }
 
 void CUGCtrl::RedrawAll() {
+    PlaceEdit();
     if (m_grid.GetSafeHwnd() == nullptr || !m_GI.m_paintingEnabled)
         return;
     m_grid.Invalidate(FALSE);
@@ -115,7 +121,7 @@ void CUGCtrl::RedrawRow(long row) {
     if (m_grid.GetSafeHwnd() == nullptr || !m_GI.m_rows.Contains(row))
         return;
     const long top = m_GI.m_rows.PositionOf(row);
-    const long bottom = top + m_GI.m_rows.SizeOf(row);
+    const long bottom = m_GI.m_rows.EndOf(top, row);
     const RECT cells = {0, top, m_GI.m_cols.m_extent, bottom};
     const RECT heading = {0, top, m_GI.m_sideHeadingWidth, bottom};
     m_grid.InvalidateRect(&cells, FALSE);
@@ -126,7 +132,7 @@ void CUGCtrl::RedrawCol(int col) {
     if (m_grid.GetSafeHwnd() == nullptr || !m_GI.m_cols.Contains(col))
         return;
     const long left = m_GI.m_cols.PositionOf(col);
-    const long right = left + m_GI.m_cols.SizeOf(col);
+    const long right = m_GI.m_cols.EndOf(left, col);
     const RECT cells = {left, 0, right, m_GI.m_rows.m_extent};
     const RECT heading = {left, 0, right, m_GI.m_topHeadingHeight};
     m_grid.InvalidateRect(&cells, FALSE);

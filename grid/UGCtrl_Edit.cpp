@@ -54,8 +54,29 @@ int CUGCtrl::StartEdit(int key) {
     }
     m_GI.m_editCol = col;
     m_GI.m_editRow = row;
+    RECT cellRect;
+    if (GetCellRect(col, row, &cellRect) == GRID_SUCCESS)
+        edit.m_inset = CPoint(rect.left - cellRect.left, rect.top - cellRect.top);
     edit.Show(key);
     return GRID_SUCCESS;
+}
+
+// An edit that stays open while the view scrolls or sizes change stays with its cell.
+void CUGCtrl::PlaceEdit() {
+    RECT cell;
+    if (GetEditControl() == nullptr || GetCellRect(m_GI.m_editCol, m_GI.m_editRow, &cell) != GRID_SUCCESS)
+        return;
+    // Windows stand within 16 bits; further out than any screen is far enough.
+    constexpr LONG kOutOfSightPx = 10000;
+    CPoint wanted = CPoint(cell.left, cell.top) + m_grid.m_edit.m_inset;
+    wanted.x = std::clamp(wanted.x, -kOutOfSightPx, kOutOfSightPx);
+    wanted.y = std::clamp(wanted.y, -kOutOfSightPx, kOutOfSightPx);
+    CRect now;
+    m_grid.m_edit.GetWindowRect(&now);
+    m_grid.ScreenToClient(&now);
+    if (now.TopLeft() != wanted)
+        ::SetWindowPos(m_grid.m_edit.m_hWnd, nullptr, wanted.x, wanted.y, 0, 0,
+                       SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // Wraps a column beyond the ends to the next or previous row and holds the row in range.
@@ -85,5 +106,10 @@ int CUGCtrl::EditContinue(int dx, int dy) {
     }
     m_GI.m_moveType = UG_MOVED_BY_PROGRAM;
     GotoCell(col, row);
-    return StartEdit();
+    if (StartEdit() == GRID_SUCCESS)
+        return GRID_SUCCESS;
+    // The next cell takes no edit: the box of the last one, which is written, must not stay and take keys.
+    DestroyEdit();
+    m_grid.SetFocus();
+    return GRID_ERROR;
 }

@@ -1,16 +1,28 @@
 // Where cells stand and which cell is at a point, joined blocks included.
 #include "grid/UGCtrl.h"
 
+bool CUGCtrl::GetJoinOrigin(const CUGCell &cell, int col, long row, int *originCol, long *originRow) const {
+    if (!cell.IsJoined())
+        return false;
+    const int left = cell.GetJoinOriginCol();
+    const long top = cell.GetJoinOriginRow();
+    if (left < 0 || left > col || top < 0 || top > row)
+        return false;
+    *originCol = left;
+    *originRow = top;
+    return true;
+}
+
 // The block reaches as far as its neighbours to the right and below name the same origin.
 void CUGCtrl::GetJoinRange(int col, long row, int *startCol, long *startRow, int *endCol, long *endRow) {
     CUGCell cell;
     GetCell(col, row, &cell);
     *startCol = *endCol = col;
     *startRow = *endRow = row;
-    if (!cell.IsJoined())
+    if (!GetJoinOrigin(cell, col, row, startCol, startRow))
         return;
-    *startCol = *endCol = cell.GetJoinOriginCol();
-    *startRow = *endRow = cell.GetJoinOriginRow();
+    *endCol = *startCol;
+    *endRow = *startRow;
     const auto belongs = [&](int c, long r) {
         return GetCell(c, r, &cell) != GRID_ERROR && cell.IsJoined() && cell.GetJoinOriginCol() == *startCol &&
                cell.GetJoinOriginRow() == *startRow;
@@ -47,10 +59,7 @@ int CUGCtrl::GetCellFromPoint(int x, int y, int *col, long *row, RECT *rect) {
     *row = foundRow;
     CUGCell cell;
     GetCell(*col, *row, &cell);
-    if (cell.IsJoined()) {
-        *col = cell.GetJoinOriginCol();
-        *row = cell.GetJoinOriginRow();
-    }
+    GetJoinOrigin(cell, *col, *row, col, row);
     if (rect != nullptr)
         GetCellRect(*col, *row, rect);
     return GRID_SUCCESS;

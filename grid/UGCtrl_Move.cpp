@@ -39,7 +39,7 @@ int CUGCtrl::VerifyTopRow(long row) {
     return GRID_SUCCESS;
 }
 
-// The target is in range: goes there unless vetoed.
+// The target is in range: goes there unless vetoed, or the table shrank while the question was asked.
 int CUGCtrl::MoveTo(int col, long row) {
     const int oldCol = GetCurrentCol();
     const long oldRow = GetCurrentRow();
@@ -47,6 +47,8 @@ int CUGCtrl::MoveTo(int col, long row) {
         return GRID_SUCCESS;
     if (!OnCanMove(oldCol, oldRow, col, row))
         return GRID_REFUSED;
+    if (col >= std::max(m_GI.m_cols.m_count, 1L) || row >= std::max(m_GI.m_rows.m_count, 1L))
+        return GRID_ERROR;
     m_GI.m_cols.m_current = col;
     m_GI.m_rows.m_current = row;
     UpdateState();
@@ -62,10 +64,7 @@ int CUGCtrl::GotoCell(int col, long row) {
         return GRID_SUCCESS;
     CUGCell cell;
     GetCell(col, row, &cell);
-    if (cell.IsJoined() && !cell.IsJoinOrigin()) {
-        col = cell.GetJoinOriginCol();
-        row = cell.GetJoinOriginRow();
-    }
+    GetJoinOrigin(cell, col, row, &col, &row);
     return MoveTo(col, row);
 }
 
@@ -82,7 +81,7 @@ long CUGCtrl::StepOverJoin(bool rows, long target) {
         return target;
     int left, right;
     long top, bottom;
-    GetJoinRange(cell.GetJoinOriginCol(), cell.GetJoinOriginRow(), &left, &top, &right, &bottom);
+    GetJoinRange(rows ? col : static_cast<int>(target), rows ? target : row, &left, &top, &right, &bottom);
     const bool ownBlock = col >= left && col <= right && row >= top && row <= bottom;
     if (!ownBlock)
         return target;
@@ -164,6 +163,7 @@ int CUGCtrl::MoveViewTo(int leftCol, long topRow) {
         return GRID_REFUSED;
     m_GI.m_cols.m_leading = leftCol;
     m_GI.m_rows.m_leading = topRow;
+    HoldLeadingInRange(); // the table may have shrunk meanwhile
     UpdateState();
     return GRID_SUCCESS;
 }
@@ -233,6 +233,7 @@ void CUGCtrl::UpdateState() {
         UpdateFocusedType(lastCol, lastRow);
     }
     RepaintViews();
+    PlaceEdit();
     rows.m_last = rows.m_current;
     cols.m_last = cols.m_current;
     rows.m_lastLeading = rows.m_leading;
@@ -245,4 +246,26 @@ void CUGCtrl::UpdateFocusedType(int lastCol, long lastRow) {
     GetCell(GetCurrentCol(), GetCurrentRow(), &m_GI.m_currentCell);
     GetCellType(m_GI.m_currentCell.GetCellType())
         ->OnSetFocus(GetCurrentCol(), GetCurrentRow(), &m_GI.m_currentCell);
+    m_typeFocused = true;
+}
+
+// The type that keys and clicks on the current cell go to. The cell is read again: nothing has moved since the
+// table was filled, or the cell has been given another type.
+CUGCellType *CUGCtrl::FocusedType() {
+    const int col = GetCurrentCol();
+    const long row = GetCurrentRow();
+    const bool exists = m_GI.m_cols.Contains(col) && m_GI.m_rows.Contains(row);
+    CUGCell now;
+    if (exists)
+        GetCell(col, row, &now);
+    CUGCellType *type = GetCellType(now.GetCellType());
+    CUGCellType *before = GetCellType(m_GI.m_currentCell.GetCellType());
+    const bool changes = !m_typeFocused || !exists || type != before;
+    if (changes && m_typeFocused)
+        before->OnKillFocus(col, row, &m_GI.m_currentCell);
+    m_GI.m_currentCell = now;
+    m_typeFocused = exists;
+    if (changes && exists)
+        type->OnSetFocus(col, row, &m_GI.m_currentCell);
+    return type;
 }

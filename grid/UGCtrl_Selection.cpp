@@ -75,5 +75,6 @@ int CUGCtrl::EnableRowHighlight(int mode) {
     m_GI.m_rowHighlight = mode;
     if (m_GI.m_multiSelect)
         m_GI.m_selection.SetMode(mode ? UG_SELECT_ROWS : UG_SELECT_CELLS);
+    RedrawAll();
     return GRID_SUCCESS;
 }

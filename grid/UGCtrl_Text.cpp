@@ -76,5 +76,6 @@ DROPEFFECT CUGCtrl::StartDrag(const char *text, COleDropSource *source, DWORD ef
     m_dragSource.Empty();
     m_dragSource.CacheGlobalData(CF_TEXT, memory);
     const CRect atOnce(0, 0, 0, 0);
+    m_grid.m_dragStarted = true;
     return m_dragSource.DoDragDrop(effects, source != nullptr ? &atOnce : nullptr, source);
 }

@@ -45,9 +45,11 @@ int CUGCtrl::RemoveCellType(long id) {
 
 int CUGCtrl::FitColumns(int firstCol, int lastCol, int rows, CellReader read) {
     lastCol = std::min(lastCol, GetNumberCols() - 1);
+    firstCol = std::max(firstCol, 0);
     if (firstCol > lastCol)
         return GRID_ERROR;
-    const long lastRow = std::min(GetTopRow() + rows, GetNumberRows() - 1);
+    const long below = GetNumberRows() - 1 - GetTopRow();
+    const long lastRow = GetTopRow() + std::min<long>(rows, below); // a huge count is all rows
     std::vector<long> widths(lastCol - firstCol + 1, 0L);
     CDC *dc = GetGridDC();
     CUGCell cell;
@@ -63,7 +65,7 @@ int CUGCtrl::FitColumns(int firstCol, int lastCol, int rows, CellReader read) {
     ReleaseGridDC(dc);
     for (int col = firstCol; col <= lastCol; ++col)
         m_GI.SetColWidth(col, static_cast<int>(widths[col - firstCol]) + kBestFitMarginPx);
-    AdjustAxis(m_GI.m_cols);
+    AdjustAxes();
     RedrawAll();
     return GRID_SUCCESS;
 }

@@ -1,8 +1,7 @@
 #include "grid/UGDropListType.h"
 
 #include "grid/UGCtrl.h"
-
-#include <algorithm>
+#include "grid/UGPlacing.h"
 
 namespace {
 
@@ -56,6 +55,12 @@ int CUGDropListType::OnKeyDown(UINT *key) {
     return UGCT_HANDLED;
 }
 
+// The list belongs to the cell: what is chosen must not end up in another one.
+int CUGDropListType::OnKillFocus(int col, long row, CUGCell *cell) {
+    m_list.Close();
+    return CUGButtonType::OnKillFocus(col, row, cell);
+}
+
 // Each line that a line feed ends is an item; text behind the last line feed is none.
 void CUGDropListType::SplitLabel(const char *label, CStringList *items) {
     const CString text(label);
@@ -66,19 +71,12 @@ void CUGDropListType::SplitLabel(const char *label, CStringList *items) {
     }
 }
 
-// Below the cell and as high as its items need; above it when there is more room there. Never higher than its
-// place, so that the rest is reached by scrolling.
 RECT CUGDropListType::ListRect(int col, long row, int itemHeight, int count) const {
     CRect cell, client;
     m_ctrl->GetCellRect(col, row, &cell);
     m_ctrl->GetClientRect(&client);
     cell.OffsetRect(m_GI->m_sideHeadingWidth, m_GI->m_topHeadingHeight);
-    const LONG wanted = itemHeight * std::max(count, 1) + kBorderPx;
-    const LONG least = itemHeight + kBorderPx;
-    if (cell.bottom + wanted > client.bottom && cell.top > client.bottom - cell.bottom)
-        return {cell.left, cell.top - std::min(wanted, std::max(cell.top, least)), cell.right, cell.top};
-    return {cell.left, cell.bottom, cell.right,
-            cell.bottom + std::min(wanted, std::max(client.bottom - cell.bottom, least))};
+    return UGPlaceList(cell, client.Height(), itemHeight, count, kBorderPx);
 }
 
 // The cell's font, the grid's, or one of its own.
@@ -121,7 +119,5 @@ void CUGDropListType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, i
         return;
     }
     DrawTextBeside(dc, rect, cell, selected, current);
-    RECT button = ButtonRect(*rect);
-    ::DrawFrameControl(dc->GetSafeHdc(), &button, DFC_SCROLL,
-                       DFCS_SCROLLCOMBOBOX | (m_pressed && current ? DFCS_PUSHED : 0));
+    DrawControl(dc, ButtonRect(*rect), DFC_SCROLL, DFCS_SCROLLCOMBOBOX | (m_pressed && current ? DFCS_PUSHED : 0));
 }

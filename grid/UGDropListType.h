@@ -16,6 +16,7 @@ public:
     int OnLClicked(int col, long row, int updn, RECT *rect, POINT *point) override;
     int OnDClicked(int col, long row, RECT *rect, POINT *point) override;
     int OnKeyDown(UINT *key) override;
+    int OnKillFocus(int col, long row, CUGCell *cell) override; // closes the list too
     void OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current) override;
 
     // Opens the list under the current cell; GRID_ERROR when one is open already.

@@ -21,6 +21,7 @@ public:
     void Show(int key);
 
     bool m_active = false; // a finish is still owed
+    CPoint m_inset;        // from the cell's corner to the box, pixels
 
 private:
     friend class CUGCtrl;

@@ -2,6 +2,8 @@
 
 #include "grid/UGCtrl.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kDotPx = 2;      // height of a dot
@@ -59,5 +61,6 @@ void CUGEllipsisType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, i
     const int x = static_cast<int>(button.left) + (width - kDotsWidthPx) / 2;
     const int y = static_cast<int>(button.top) + height * 3 / 4;
     for (int dot = 0; dot < 3; ++dot)
-        dc->FillSolidRect(x + dot * kDotStepPx, y, 1, kDotPx, ::GetSysColor(COLOR_BTNTEXT));
+        dc->FillSolidRect(x + dot * kDotStepPx, y, 1, std::min(kDotPx, static_cast<int>(button.bottom) - y),
+                          ::GetSysColor(COLOR_BTNTEXT));
 }

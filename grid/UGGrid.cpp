@@ -3,6 +3,7 @@
 
 #include "grid/UGCtrl.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 IMPLEMENT_DYNAMIC(CUGGrid, CWnd)
@@ -50,7 +51,19 @@ void CUGGrid::SetDoubleBuffer(bool on) {
     m_bufferSize = CSize(0, 0);
 }
 
+// The view may have changed without a move: a table that shrank takes its leading row along. What stands on the
+// screen then fits nowhere, and shifting it later would only carry it along.
+void CUGGrid::SyncShown() {
+    if (m_shownLeft == m_GI->m_cols.m_leading && m_shownTop == m_GI->m_rows.m_leading)
+        return;
+    m_shownLeft = static_cast<int>(m_GI->m_cols.m_leading);
+    m_shownTop = m_GI->m_rows.m_leading;
+    Invalidate(FALSE);
+}
+
 void CUGGrid::OnPaint() {
+    if (m_GI->m_paintingEnabled)
+        SyncShown();
     CPaintDC dc(this);
     if (!m_GI->m_paintingEnabled)
         return;
@@ -83,11 +96,28 @@ void CUGGrid::PaintBuffered(CDC *dc, const RECT &clip) {
 void CUGGrid::InvalidateCurrent(int col, long row) {
     if (m_GI->m_rowHighlight) {
         m_ctrl->RedrawRow(row);
+        if (row >= m_GI->m_rows.m_leading && row <= m_GI->m_rows.LastVisible())
+            InvalidateCells(m_GI->m_cols.m_leading, row, m_GI->m_cols.LastVisible(), row);
         return;
     }
     RECT rect;
     if (m_ctrl->GetCellRect(col, row, &rect) == GRID_SUCCESS)
         InvalidateRect(&rect, FALSE);
+}
+
+// Visible cells, with the joined blocks that reach out of them: a block is drawn as one, by its origin's state.
+void CUGGrid::InvalidateCells(long left, long top, long right, long bottom) {
+    CRect all(m_GI->m_cols.PositionOf(left), m_GI->m_rows.PositionOf(top), m_GI->m_cols.PositionOf(right + 1),
+              m_GI->m_rows.PositionOf(bottom + 1));
+    for (long row = top; row <= bottom; ++row) {
+        const bool edge = row == top || row == bottom;
+        for (long col = left; col <= right; col += edge || col == right ? 1 : std::max(right - left, 1L)) {
+            CRect cell;
+            if (m_ctrl->GetCellRect(static_cast<int>(col), row, &cell) == GRID_SUCCESS)
+                all.UnionRect(CRect(all), cell);
+        }
+    }
+    InvalidateRect(&all, FALSE);
 }
 
 bool CUGGrid::ScrollImage(int dx, int dy) {
@@ -139,9 +169,6 @@ void CUGGrid::InvalidateSelection() {
         const long bottom = std::min(block.bottom, bottomRow);
         if (left > right || top > bottom)
             continue;
-        const RECT rect = {m_GI->m_cols.PositionOf(left), m_GI->m_rows.PositionOf(top),
-                           m_GI->m_cols.PositionOf(right) + m_GI->m_cols.SizeOf(right),
-                           m_GI->m_rows.PositionOf(bottom) + m_GI->m_rows.SizeOf(bottom)};
-        InvalidateRect(&rect, FALSE);
+        InvalidateCells(left, top, right, bottom);
     }
 }

@@ -25,10 +25,15 @@ public:
     void SetDoubleBuffer(bool on);
     // The double focus frame of the current cell, within its rectangle. It inverts what is there.
     static void DrawFocusFrame(CDC *dc, RECT cell);
+    // From the button going down until it is up again, or something else takes the mouse.
+    bool HoldsMouse() const { return m_captured; }
+    // The type that wants the mouse moves meanwhile; null for none.
+    CUGCellType *Tracker() const { return m_tracker; }
 
     CUGCtrl *m_ctrl = nullptr; // both borrowed, set by the control
     CUGGridInfo *m_GI = nullptr;
     CUGEdit m_edit;
+    bool m_dragStarted = false; // a notification dragged something out: the button is up again
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT &create) override;
@@ -67,11 +72,14 @@ private:
     void PaintBuffered(CDC *dc, const RECT &clip);
     void RequestRowsBelow(long lastDrawn);
     void InvalidateCurrent(int col, long row);
+    void InvalidateCells(long left, long top, long right, long bottom);
     bool ScrollImage(int dx, int dy);
 
     void GoByMouse(int moveType, int col, long row);
     RECT TypeArea(int col, long row, RECT rect);
     int PressOnType(int col, long row, const RECT &rect, POINT *point);
+    void HoldMouse();
+    void SyncShown();
     void DragTo(CPoint point);
     void DragScroll(CPoint point);
     bool DragStep(CPoint point);

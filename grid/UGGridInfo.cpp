@@ -89,6 +89,7 @@ void CUGGridInfo::ResizeColumns(int count) {
     }
     m_cols.m_sizes.resize(wanted, m_cols.m_defaultSize);
     m_cols.m_count = count;
+    m_lockedCols = std::min(m_lockedCols, count);
 }
 
 void CUGGridInfo::ResizeRows(long count) {

@@ -84,7 +84,8 @@ public:
     void FitDefaultsToText(int cellTextHeight, int headingTextHeight);
 
     // Gives the axis `count` columns: kept ones keep width, default and heading, new ones get copies of the
-    // defaults. All or nothing when memory runs out. The cursors are the caller's.
+    // defaults. Locked columns that went are locked no more. All or nothing when memory runs out. The cursors
+    // are the caller's.
     void ResizeColumns(int count);
     // The same for rows, with the change to uniform heights at the threshold.
     void ResizeRows(long count);

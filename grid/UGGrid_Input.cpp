@@ -45,7 +45,7 @@ constexpr KeyMove kKeyMoves[] = {
 } // namespace
 
 void CUGGrid::OnKeyDown(UINT key, UINT, UINT) {
-    const int processed = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType())->OnKeyDown(&key);
+    const int processed = m_ctrl->FocusedType()->OnKeyDown(&key);
     m_ctrl->OnKeyDown(&key, processed);
     const bool ctrl = (::GetKeyState(VK_CONTROL) & 0x8000) != 0;
     for (const KeyMove &entry : kKeyMoves) {
@@ -63,7 +63,7 @@ void CUGGrid::OnKeyUp(UINT key, UINT, UINT) {
 }
 
 void CUGGrid::OnChar(UINT key, UINT, UINT) {
-    const int processed = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType())->OnCharDown(&key);
+    const int processed = m_ctrl->FocusedType()->OnCharDown(&key);
     m_ctrl->OnCharDown(&key, processed);
 }
 
@@ -87,7 +87,7 @@ RECT CUGGrid::TypeArea(int col, long row, RECT rect) {
 int CUGGrid::PressOnType(int col, long row, const RECT &rect, POINT *point) {
     if (col != m_ctrl->GetCurrentCol() || row != m_ctrl->GetCurrentRow())
         return 0;
-    CUGCellType *type = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType());
+    CUGCellType *type = m_ctrl->FocusedType();
     RECT area = TypeArea(col, row, rect);
     const int processed = type->OnLClicked(col, row, 1, &area, point);
     if (processed == UGCT_HANDLED)
@@ -95,8 +95,15 @@ int CUGGrid::PressOnType(int col, long row, const RECT &rect, POINT *point) {
     return processed;
 }
 
+void CUGGrid::HoldMouse() {
+    SetCapture();
+    m_captured = true;
+}
+
 void CUGGrid::OnLButtonDown(UINT, CPoint point) {
     SetFocus();
+    m_tracker = nullptr;
+    m_dragStarted = false;
     int col;
     long row;
     RECT rect{};
@@ -110,8 +117,10 @@ void CUGGrid::OnLButtonDown(UINT, CPoint point) {
         row = -1;
     }
     m_ctrl->OnLClicked(col, row, 1, &rect, &point, processed);
-    SetCapture();
-    m_captured = true;
+    if (GetSafeHwnd() != nullptr && !m_dragStarted)
+        HoldMouse();
+    else
+        m_tracker = nullptr;
 }
 
 void CUGGrid::OnLButtonUp(UINT, CPoint point) {
@@ -129,7 +138,7 @@ void CUGGrid::OnLButtonUp(UINT, CPoint point) {
         m_ctrl->BringCurrentIntoView();
         m_ctrl->GetCellRect(col, row, &rect);
     }
-    CUGCellType *type = tracker != nullptr ? tracker : m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType());
+    CUGCellType *type = tracker != nullptr ? tracker : m_ctrl->FocusedType();
     RECT area = TypeArea(col, row, rect);
     processed = type->OnLClicked(col, row, 0, &area, &point);
     m_ctrl->OnLClicked(col, row, 0, &rect, &point, processed);
@@ -144,8 +153,14 @@ void CUGGrid::OnLButtonDblClk(UINT, CPoint point) {
     int processed = 0;
     m_ctrl->GetCellFromPoint(point.x, point.y, &col, &row, &rect);
     if (col >= 0 && col == m_ctrl->GetCurrentCol() && row == m_ctrl->GetCurrentRow()) {
+        CUGCellType *type = m_ctrl->FocusedType();
         RECT area = TypeArea(col, row, rect);
-        processed = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType())->OnDClicked(col, row, &area, &point);
+        processed = type->OnDClicked(col, row, &area, &point);
+        // A button that was pressed by it is released with the mouse's button.
+        if (processed == UGCT_HANDLED) {
+            HoldMouse();
+            m_tracker = type;
+        }
     }
     m_ctrl->OnDClicked(col, row, &rect, &point, processed);
 }
@@ -161,8 +176,7 @@ void CUGGrid::OnRButtonDown(UINT, CPoint point) {
         m_ctrl->GetCellRect(col, row, &rect);
         if (col == m_ctrl->GetCurrentCol() && row == m_ctrl->GetCurrentRow()) {
             RECT area = TypeArea(col, row, rect);
-            processed = m_ctrl->GetCellType(m_GI->m_currentCell.GetCellType())
-                            ->OnRClicked(col, row, 1, &area, &point);
+            processed = m_ctrl->FocusedType()->OnRClicked(col, row, 1, &area, &point);
         }
     }
     m_ctrl->OnRClicked(col, row, 1, &rect, &point, processed);
@@ -226,21 +240,23 @@ void CUGGrid::DragScroll(CPoint point) {
     m_dragScrolling = false;
 }
 
-// One step of the drag scrolling; false when there is nothing further to go to.
+// One step of the drag scrolling, each axis by itself; false when it led nowhere.
 bool CUGGrid::DragStep(CPoint point) {
-    const long stepCols = UGDragSteps(point.x, m_GI->m_cols.m_extent, m_GI->m_cols.m_defaultSize / 2,
-                                      m_GI->m_ballisticMode, false);
-    const long stepRows = UGDragSteps(point.y, m_GI->m_rows.m_extent, m_GI->m_rows.m_defaultSize,
-                                      m_GI->m_ballisticMode, true);
-    const int col = static_cast<int>(std::clamp(m_GI->m_cols.m_current + stepCols, 0L, m_GI->m_cols.m_count - 1));
-    const long row = std::clamp(m_GI->m_rows.m_current + stepRows, 0L, m_GI->m_rows.m_count - 1);
-    if (col == m_GI->m_cols.m_current && row == m_GI->m_rows.m_current)
-        return false;
+    const CUGAxis &cols = m_GI->m_cols, &rows = m_GI->m_rows;
+    const long col = cols.m_current, row = rows.m_current;
+    const UGDragStep across = UGDragStepOf(point.x, cols.m_extent, cols.m_defaultSize / 2, m_GI->m_ballisticMode, false);
+    const UGDragStep down = UGDragStepOf(point.y, rows.m_extent, rows.m_defaultSize, m_GI->m_ballisticMode, true);
     m_GI->m_moveType = UG_MOVED_BY_DRAG;
-    m_ctrl->GotoCell(col, row);
+    if (across.m_steps != 0)
+        m_ctrl->GotoCol(static_cast<int>(UGDragTarget(col, across.m_steps)));
+    if (down.m_steps != 0)
+        m_ctrl->GotoRow(UGDragTarget(row, down.m_steps));
     m_GI->m_moveType = UG_MOVED_BY_PROGRAM;
+    if (cols.m_current == col && rows.m_current == row)
+        return false;
     UpdateWindow();
-    ::Sleep(m_GI->m_ballisticDelay);
+    if (across.m_waits || down.m_waits)
+        ::Sleep(m_GI->m_ballisticDelay);
     return true;
 }
 
@@ -258,8 +274,11 @@ BOOL CUGGrid::OnMouseWheel(UINT, short delta, CPoint) {
     return TRUE;
 }
 
+// Whoever took the mouse keeps the release of the button to itself: nothing waits for it any more.
 void CUGGrid::OnCaptureChanged(CWnd *next) {
-    if (next != this)
-        m_captured = m_captured && ::GetCapture() == m_hWnd;
+    if (next != this) {
+        m_captured = false;
+        m_tracker = nullptr;
+    }
     CWnd::OnCaptureChanged(next);
 }

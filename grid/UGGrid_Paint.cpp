@@ -4,6 +4,12 @@
 
 #include <algorithm>
 
+namespace {
+
+constexpr int kSmallCellPx = 10; // lower or narrower cells are drawn clipped
+
+} // namespace
+
 void CUGGrid::DrawAll(CDC *dc, const RECT &clip) {
     HGDIOBJ oldFont = nullptr;
     if (m_GI->m_defaultFont != nullptr)
@@ -17,9 +23,9 @@ void CUGGrid::DrawAll(CDC *dc, const RECT &clip) {
     int bottom = 0;
     long lastDrawn = -1;
     if (m_GI->m_cols.m_count > 0) {
-        for (long row = rows.m_leading; row < rows.m_count && bottom < rows.m_extent; ++row) {
+        for (long row = rows.m_leading; row < rows.m_count && bottom < rows.m_extent && !rows.AllHidden(); ++row) {
             const int top = bottom;
-            bottom += rows.SizeOf(row);
+            bottom = static_cast<int>(rows.EndOf(top, row));
             lastDrawn = row;
             if (bottom > clip.top && top < clip.bottom && bottom > top)
                 DrawRow(pass, row, top, bottom);
@@ -27,7 +33,7 @@ void CUGGrid::DrawAll(CDC *dc, const RECT &clip) {
     }
     const CUGAxis &cols = m_GI->m_cols;
     const long lastCol = cols.LastVisible();
-    const long right = lastCol < 0 || lastDrawn < 0 ? 0 : cols.PositionOf(lastCol) + cols.SizeOf(lastCol);
+    const long right = lastCol < 0 || lastDrawn < 0 ? 0 : cols.PositionOf(lastCol + 1);
     FillBeyond(dc, static_cast<int>(right), bottom);
     DrawFocusFrame(dc);
     if (oldFont != nullptr)
@@ -46,7 +52,7 @@ void CUGGrid::DrawRow(Pass &pass, long row, int top, int bottom) {
     int right = 0;
     for (long col = cols.m_leading; col < cols.m_count && right < cols.m_extent; ++col) {
         const int left = right;
-        right += cols.SizeOf(col);
+        right = static_cast<int>(cols.EndOf(left, col));
         const RECT rect = {left, top, right, bottom};
         if (right > left && right > pass.clip.left && left < pass.clip.right &&
             (pass.simpleClip || ::RectVisible(pass.dc->GetSafeHdc(), &rect)))
@@ -57,8 +63,8 @@ void CUGGrid::DrawRow(Pass &pass, long row, int top, int bottom) {
 void CUGGrid::DrawCell(Pass &pass, int col, long row, RECT rect) {
     m_cell.ClearAll();
     m_ctrl->GetCell(col, row, &m_cell);
-    if (m_cell.IsJoined()) {
-        const std::pair origin(m_cell.GetJoinOriginCol(), m_cell.GetJoinOriginRow());
+    std::pair<int, long> origin;
+    if (m_ctrl->GetJoinOrigin(m_cell, col, row, &origin.first, &origin.second)) {
         if (std::find(pass.joinsDrawn.begin(), pass.joinsDrawn.end(), origin) != pass.joinsDrawn.end())
             return;
         pass.joinsDrawn.push_back(origin);
@@ -74,8 +80,15 @@ void CUGGrid::DrawCell(Pass &pass, int col, long row, RECT rect) {
     const bool selected = m_GI->m_multiSelect ? !isCell && m_GI->m_selection.IsSelected(col, row)
                                               : m_GI->m_rowHighlight && currentRow;
     CUGCellType *type = m_ctrl->GetCellType(m_cell.GetCellType());
+    // Signs and frames do not shrink below some pixels: in a small cell they would end up in the ones around.
+    const bool small = rect.right - rect.left < kSmallCellPx || rect.bottom - rect.top < kSmallCellPx;
+    const int saved = small ? ::SaveDC(pass.dc->GetSafeHdc()) : 0;
+    if (small)
+        ::IntersectClipRect(pass.dc->GetSafeHdc(), rect.left, rect.top, rect.right, rect.bottom);
     type->DrawBorder(pass.dc, &rect, &m_cell);
     type->OnDraw(pass.dc, &rect, &m_cell, selected, current);
+    if (small)
+        ::RestoreDC(pass.dc->GetSafeHdc(), saved);
 }
 
 // What no cell covers has the back colour of the headings.
@@ -106,7 +119,9 @@ void CUGGrid::DrawFocusFrame(CDC *dc, RECT rect) {
     rect.bottom -= 1;
     dc->SetTextColor(0);
     dc->SetBkColor(RGB(255, 255, 255));
-    dc->DrawFocusRect(&rect);
-    ::InflateRect(&rect, -1, -1);
-    dc->DrawFocusRect(&rect);
+    // In a cell too small for it a frame would turn inside out and leave lines in the cells around.
+    for (int frame = 0; frame < 2 && rect.left < rect.right && rect.top < rect.bottom; ++frame) {
+        dc->DrawFocusRect(&rect);
+        ::InflateRect(&rect, -1, -1);
+    }
 }

@@ -2,6 +2,8 @@
 
 #include "grid/UGCtrl.h"
 
+#include <utility>
+
 IMPLEMENT_DYNAMIC(CUGHeading, CWnd)
 
 BEGIN_MESSAGE_MAP(CUGHeading, CWnd)
@@ -13,6 +15,7 @@ BEGIN_MESSAGE_MAP(CUGHeading, CWnd)
     ON_WM_LBUTTONDBLCLK()
     ON_WM_RBUTTONDOWN()
     ON_WM_RBUTTONUP()
+    ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
 
 // No class cursor: the pointer's shape is set as it moves over edges.
@@ -27,6 +30,11 @@ BOOL CUGHeading::OnEraseBkgnd(CDC *) {
 }
 
 void CUGHeading::OnPaint() {
+    if (m_GI->m_paintingEnabled && Axis().m_leading != m_shownLeading) {
+        // The table shrank under the view: all of it stands elsewhere, not only what is to be painted.
+        m_shownLeading = Axis().m_leading;
+        Invalidate(FALSE);
+    }
     CPaintDC dc(this);
     if (!m_GI->m_paintingEnabled)
         return;
@@ -36,9 +44,9 @@ void CUGHeading::OnPaint() {
     m_ctrl->OnDrawSetup(&dc, DrawSection());
     const CUGAxis &axis = Axis();
     long end = 0;
-    for (long index = axis.m_leading; index < axis.m_count && end < axis.m_extent; ++index) {
+    for (long index = axis.m_leading; index < axis.m_count && end < axis.m_extent && !axis.AllHidden(); ++index) {
         const long begin = end;
-        end += axis.SizeOf(index);
+        end = axis.EndOf(begin, index);
         const RECT rect = Strip(begin, end);
         if (end > begin && ::RectVisible(dc.GetSafeHdc(), &rect))
             DrawOne(&dc, index, begin, end);
@@ -83,6 +91,8 @@ void CUGHeading::LookForEdge(CPoint point) {
 }
 
 void CUGHeading::DragEdge(CPoint point) {
+    if (!Axis().Contains(m_sizeIndex))
+        return; // the table shrank meanwhile
     int size = std::max(m_startSize + Along(point) - m_startPosition, 0);
     Sizing(m_sizeIndex, &size);
     if (size == Axis().SizeOf(m_sizeIndex))
@@ -91,6 +101,7 @@ void CUGHeading::DragEdge(CPoint point) {
     Invalidate(FALSE);
     if (m_GI->m_userSizingMode == 2)
         m_ctrl->m_grid.Invalidate(FALSE);
+    m_ctrl->PlaceEdit();
 }
 
 void CUGHeading::OnMouseMove(UINT, CPoint point) {
@@ -114,20 +125,33 @@ void CUGHeading::OnLButtonDown(UINT, CPoint point) {
 }
 
 void CUGHeading::OnLButtonUp(UINT, CPoint point) {
+    const bool resizing = std::exchange(m_resizing, false);
     if (GetCapture() == this)
         ReleaseCapture();
-    if (!m_resizing) {
+    if (!resizing) {
         LClicked(Axis().At(Along(point)), 0);
         return;
     }
-    m_resizing = false;
-    int size = Axis().SizeOf(m_sizeIndex);
-    m_ctrl->AdjustAxis(Axis());
+    m_ctrl->AdjustAxes();
     m_ctrl->RedrawAll();
+    if (!Axis().Contains(m_sizeIndex))
+        return;
+    int size = Axis().SizeOf(m_sizeIndex);
     Sized(m_sizeIndex, &size);
     if (Axis().Contains(m_sizeIndex))
         StoreSize(m_sizeIndex, size);
-    m_ctrl->AdjustAxis(Axis());
+    m_ctrl->AdjustAxes();
+}
+
+// Whoever took the mouse keeps the release of the button to itself: the edge stays where it is. Other sizes are
+// in the table since, so its end is reckoned as after a release.
+void CUGHeading::OnCaptureChanged(CWnd *next) {
+    if (next != this && m_resizing) {
+        m_resizing = false;
+        m_ctrl->AdjustAxes();
+        m_ctrl->RedrawAll();
+    }
+    CWnd::OnCaptureChanged(next);
 }
 
 void CUGHeading::OnLButtonDblClk(UINT, CPoint point) {

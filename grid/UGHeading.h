@@ -18,6 +18,8 @@ class ORVANE_API CUGHeading : public CWnd {
 public:
     // Shows that the view moved along the heading's axis.
     void ShowMove();
+    // An edge is being dragged.
+    bool IsResizing() const { return m_resizing; }
 
     CUGCtrl *m_ctrl = nullptr; // both borrowed, set by the control
     CUGGridInfo *m_GI = nullptr;
@@ -52,6 +54,7 @@ protected:
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd *next);
 
 private:
     void LookForEdge(CPoint point);

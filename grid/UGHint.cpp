@@ -1,6 +1,7 @@
 #include "grid/UGHint.h"
 
 #include "grid/UGDefine.h"
+#include "grid/UGPlacing.h"
 
 #include <algorithm>
 
@@ -50,21 +51,6 @@ int CUGHint::SetBackColor(COLORREF colour) {
     return GRID_SUCCESS;
 }
 
-CRect CUGHint::Place(CPoint point, CSize size, short alignment, const CRect &parent) {
-    CRect rect(point, size);
-    if (alignment & UG_ALIGN_HCENTER)
-        rect.OffsetRect(-size.cx / 2, 0);
-    else if (alignment & UG_ALIGN_RIGHT)
-        rect.OffsetRect(-size.cx, 0);
-    if (alignment & UG_ALIGN_VCENTER)
-        rect.OffsetRect(0, -size.cy / 2);
-    else if (alignment & UG_ALIGN_BOTTOM)
-        rect.OffsetRect(0, -size.cy);
-    rect.OffsetRect(std::min<int>(parent.right - rect.right, 0), std::min<int>(parent.bottom - rect.bottom, 0));
-    rect.OffsetRect(std::max<int>(parent.left - rect.left, 0), std::max<int>(parent.top - rect.top, 0));
-    return rect;
-}
-
 int CUGHint::MoveHint(int x, int y, int minimumWidth) {
     CClientDC dc(this);
     HGDIOBJ old = m_font != nullptr ? ::SelectObject(dc.GetSafeHdc(), m_font) : nullptr;
@@ -78,7 +64,7 @@ int CUGHint::MoveHint(int x, int y, int minimumWidth) {
                      metrics.tmHeight + metrics.tmExternalLeading + kLineMarginPx);
     CRect parent;
     GetParent()->GetClientRect(&parent);
-    MoveWindow(Place(CPoint(x, y), size, m_alignment, parent));
+    MoveWindow(CRect(UGPlaceHint(CPoint(x, y), size, m_alignment, parent)));
     return GRID_SUCCESS;
 }
 

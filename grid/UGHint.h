@@ -19,9 +19,6 @@ public:
     int Show();
     int Hide();
 
-    // The window's rectangle for a text of this size; window-free, for MoveHint.
-    static CRect Place(CPoint point, CSize size, short alignment, const CRect &parent);
-
 protected:
     BOOL PreCreateWindow(CREATESTRUCT &create) override;
     DECLARE_MESSAGE_MAP()

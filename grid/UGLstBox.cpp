@@ -30,7 +30,7 @@ void CUGLstBox::OnDestroy() {
 
 void CUGLstBox::Take() {
     const int item = GetCurSel();
-    if (item == LB_ERR) {
+    if (item == LB_ERR || *m_col < 0 || *m_row < 0) {
         Close();
         return;
     }

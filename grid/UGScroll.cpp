@@ -68,6 +68,7 @@ void CUGScroll::HandleScroll(UINT code) {
         m_ctrl->m_hint.Hide();
         SetLeading(m_range.AxisPosition(TrackPosition()));
         break;
+    case SB_ENDSCROLL: m_ctrl->m_hint.Hide(); break;
     default: break;
     }
     m_lastPosition = -1; // the drag moved the thumb: put it where the view is

@@ -1,9 +1,12 @@
 #include "grid/UGScrollRange.h"
 
+#include <algorithm>
+
 namespace {
 
+// At least one: in a view that is smaller than one step the bar must still reach the axis's end.
 int PageOf(int extent, int defaultSize) {
-    return defaultSize > 0 ? extent / defaultSize : 1;
+    return defaultSize > 0 ? std::max(extent / defaultSize, 1) : 1;
 }
 
 } // namespace

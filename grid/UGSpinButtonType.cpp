@@ -55,9 +55,8 @@ int CUGSpinButtonType::OnMouseMoveSpin(POINT *point) {
 }
 
 void CUGSpinButtonType::DrawHalf(CDC *dc, const RECT &button, bool upper, bool pressed) {
-    RECT half = Half(button, upper);
-    ::DrawFrameControl(dc->GetSafeHdc(), &half, DFC_SCROLL,
-                       (upper ? DFCS_SCROLLUP : DFCS_SCROLLDOWN) | (pressed ? DFCS_PUSHED : 0));
+    DrawControl(dc, Half(button, upper), DFC_SCROLL,
+                (upper ? DFCS_SCROLLUP : DFCS_SCROLLDOWN) | (pressed ? DFCS_PUSHED : 0));
 }
 
 void CUGSpinButtonType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current) {

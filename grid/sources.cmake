@@ -9,6 +9,7 @@ set(GRID_MODEL_SOURCES
     UGGridInfo.cpp
     UGMem.cpp
     UGMem_Search.cpp
+    UGPlacing.cpp
     UGScrollRange.cpp
     UGSelectionList.cpp
     UGTabLayout.cpp

@@ -146,4 +146,33 @@ TEST(AxisTest, TenMillionRowsAreNotWalked) {
     EXPECT_EQ(980, axis.PositionOf(9999999));
 }
 
+TEST(AxisTest, ThereIsNoPageInAnEmptyAxis) {
+    CUGAxis axis = Individual({}, 100);
+    EXPECT_EQ(-1, axis.PageBack(0));
+    EXPECT_EQ(1, axis.PageForward(0));
+}
+
+TEST(AxisTest, PositionsFarAwayDoNotOverflow) {
+    CUGAxis axis = Uniform(10000000, 1000, 100);
+    EXPECT_EQ(kFarPx, axis.PositionOf(9999999));
+    axis.m_leading = 9999999;
+    EXPECT_EQ(-kFarPx, axis.PositionOf(0));
+    CUGAxis wide = Individual({2147483647, 2147483647, 2147483647}, 100);
+    EXPECT_EQ(kFarPx, wide.PositionOf(3));
+    EXPECT_EQ(0, wide.At(99));
+    EXPECT_EQ(0, wide.LastVisible());
+}
+
+TEST(AxisTest, ManyOfNoSizeAreNotWalked) {
+    CUGAxis axis = Uniform(2000000000, 0, 100);
+    EXPECT_EQ(0, axis.ComputeMaxLeading());
+    EXPECT_EQ(-1, axis.At(0));
+    EXPECT_EQ(1999999999, axis.LastVisible());
+    EXPECT_EQ(1999999999, axis.EdgeAt(2, 3));
+    EXPECT_EQ(-1, axis.EdgeAt(3, 3));
+    EXPECT_EQ(1999999999, axis.PageForward(5));
+    EXPECT_EQ(0, axis.PageBack(7));
+    EXPECT_EQ(0, axis.LeadingForCurrent(1));
+}
+
 } // namespace

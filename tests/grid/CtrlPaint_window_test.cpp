@@ -122,4 +122,93 @@ TEST_F(CtrlPaintTest, TwoHundredControlsLeaveNothingBehind) {
     EXPECT_LE(HighestMenuHandle(), menus + 100);
 }
 
+// A view of exactly four columns and thirteen rows, so that a line scrolled by is a line exposed.
+class ScrollReadsTest : public CtrlPaintTest {
+protected:
+    ScrollReadsTest() { Exact(); }
+    RecordingSource &Exact() {
+        RecordingSource &source = Fill(20, 1000);
+        m_grid.SetSH_Width(500 - m_grid.m_GI.m_vScrollWidth - 400);
+        m_grid.SetTH_Height(300 - m_grid.m_GI.m_hScrollHeight - 260);
+        m_grid.GotoCell(0, 0);
+        m_grid.RedrawAll();
+        PumpAll();
+        Forget(source);
+        return source;
+    }
+    // How many cells were read, and in which rows.
+    std::string Read() {
+        PumpAll();
+        const std::string cells = std::to_string(m_source->m_rowsRead.size());
+        const std::string rows = RowsRead(*m_source);
+        Forget(*m_source);
+        return cells + " in " + rows;
+    }
+    void Command(UINT message, UINT code) { ::SendMessageA(m_grid.m_hWnd, message, code, 0); }
+};
+
+// The current cell is read once more for its frame.
+TEST_F(ScrollReadsTest, OneRowDownAndUpReadsOneRow) {
+    for (int doubleBuffer : {0, 1}) {
+        m_grid.SetDoubleBuffer(doubleBuffer);
+        m_grid.RedrawAll();
+        Read();
+        Command(WM_VSCROLL, SB_LINEDOWN);
+        EXPECT_EQ("5 in 0 13 ", Read()) << doubleBuffer;
+        Command(WM_VSCROLL, SB_LINEDOWN);
+        EXPECT_EQ("5 in 0 14 ", Read()) << doubleBuffer;
+        Command(WM_VSCROLL, SB_LINEUP);
+        EXPECT_EQ("5 in 0 1 ", Read()) << doubleBuffer;
+        m_grid.SetTopRow(0);
+        Read();
+    }
+}
+
+TEST_F(ScrollReadsTest, OneColumnRightAndLeftReadsOneColumn) {
+    for (int doubleBuffer : {0, 1}) {
+        m_grid.SetDoubleBuffer(doubleBuffer);
+        m_grid.RedrawAll();
+        Read();
+        Command(WM_HSCROLL, SB_LINERIGHT);
+        EXPECT_EQ("14 in 0 1 2 3 4 5 6 7 8 9 10 11 12 ", Read()) << doubleBuffer;
+        Command(WM_HSCROLL, SB_LINELEFT);
+        EXPECT_EQ("14 in 0 1 2 3 4 5 6 7 8 9 10 11 12 ", Read()) << doubleBuffer;
+    }
+}
+
+TEST_F(ScrollReadsTest, ALiveThumbReadsTheRowsThatItPassed) {
+    m_grid.SetVScrollMode(1);
+    ::SetScrollPos(m_grid.VBar(), SB_CTL, 2, FALSE);
+    Command(WM_VSCROLL, SB_THUMBTRACK);
+    EXPECT_EQ("9 in 0 13 14 ", Read());
+}
+
+TEST_F(ScrollReadsTest, TheWheelReadsTheRowsThatItPassed) {
+    UINT lines = 0;
+    ::SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    ASSERT_EQ(3u, lines);
+    ::SendMessageA(m_grid.Cells(), WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+    EXPECT_EQ("15 in 0 13 14 15 ", Read());
+}
+
+TEST_F(ScrollReadsTest, AnArrowKeyAtTheBottomReadsTheNewRowAndTheCellThatWasCurrent) {
+    m_grid.GotoRow(12);
+    Read();
+    SendKey(m_grid.Cells(), VK_DOWN);
+    const std::string read = Read();
+    EXPECT_EQ("in 12 13 ", read.substr(read.find("in")));
+    EXPECT_GE(12, std::stoi(read));
+}
+
+// The view changed without a move: what is exposed later must not be shifted from where it never stood.
+TEST_F(ScrollReadsTest, AViewThatATableTookAlongIsPaintedWholeAndThenScrolled) {
+    m_grid.SetTopRow(500);
+    Read();
+    m_grid.SetNumberRows(100); // shows 87 to 99 from now on
+    EXPECT_EQ(87, m_grid.GetTopRow());
+    Read();
+    Command(WM_VSCROLL, SB_LINEUP);
+    EXPECT_EQ("5 in 0 86 ", Read());
+}
+
 } // namespace

@@ -1,7 +1,6 @@
 #include "grid/UGDrawRules.h"
 
 #include "grid/UGDefine.h"
-#include "grid/UGDragScroll.h"
 
 #include <gtest/gtest.h>
 
@@ -77,18 +76,6 @@ TEST(DrawRulesTest, APrintedFontKeepsItsProportionToTheRow) {
     EXPECT_EQ(26, UGPrintFontHeight(13, 150, 0, 200)); // no row to compare with
     EXPECT_EQ(-1, UGPrintFontHeight(-13, 1, 100, 100));
     EXPECT_EQ(1, UGPrintFontHeight(13, 0, 20, 100));
-}
-
-TEST(DragScrollTest, TheStepGrowsWithTheDistanceByMode) {
-    EXPECT_EQ(0, UGDragSteps(50, 100, 20, 0, true));
-    EXPECT_EQ(1, UGDragSteps(100, 100, 20, 3, true)); // within the first unit
-    EXPECT_EQ(1, UGDragSteps(160, 100, 20, 0, true));
-    EXPECT_EQ(3, UGDragSteps(160, 100, 20, 1, true));
-    EXPECT_EQ(9, UGDragSteps(160, 100, 20, 2, true));
-    EXPECT_EQ(27, UGDragSteps(160, 100, 20, 3, true));
-    EXPECT_EQ(9, UGDragSteps(160, 100, 20, 3, false));
-    EXPECT_EQ(-9, UGDragSteps(-60, 100, 20, 2, true));
-    EXPECT_EQ(-1, UGDragSteps(-60, 100, 0, 2, true)); // a unit of nothing divides nothing
 }
 
 } // namespace

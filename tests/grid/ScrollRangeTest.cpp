@@ -45,4 +45,10 @@ TEST(ScrollRangeTest, TheHorizontalBarIsNeverScaled) {
     EXPECT_EQ(1, range.BarPosition(1));
 }
 
+TEST(ScrollRangeTest, InAViewSmallerThanOneStepTheBarStillReachesTheEnd) {
+    EXPECT_EQ(7, UGScrollRange::Horizontal(7, 60, 100).m_max);
+    EXPECT_EQ(1, UGScrollRange::Horizontal(7, 60, 100).m_page);
+    EXPECT_EQ(7, UGScrollRange::Vertical(7, 5, 20, false).m_max);
+}
+
 } // namespace

@@ -13,6 +13,8 @@ int RecordingGrid::Note(const char *name, std::initializer_list<long> arguments)
         between = ",";
     }
     m_events.push_back(event + ")");
+    if (m_log != nullptr)
+        m_log->Note(m_events.back());
     return m_vetoes.count(name) != 0 ? 0 : 1;
 }
 
@@ -44,7 +46,10 @@ std::string RecordingGrid::Text(int col, long row) {
 }
 
 int RecordingGrid::OnCanMove(int oldCol, long oldRow, int newCol, long newRow) {
-    return Note("CanMove", {oldCol, oldRow, newCol, newRow});
+    const int answer = Note("CanMove", {oldCol, oldRow, newCol, newRow});
+    if (m_onCanMove)
+        m_onCanMove();
+    return answer;
 }
 
 int RecordingGrid::OnCanViewMove(int oldCol, long oldRow, int newCol, long newRow) {
@@ -57,6 +62,12 @@ void RecordingGrid::OnHitBottom(long numRows, long rowsPast, long rowsFound) {
         m_onHitBottom();
 }
 
+void RecordingGrid::OnHitTop(long numRows, long rowsPast) {
+    Note("HitTop", {numRows, rowsPast});
+    if (m_onHitTop)
+        m_onHitTop();
+}
+
 void RecordingGrid::OnColSizing(int col, int *width) {
     Note("ColSizing", {col, *width});
     if (m_onSizing)
@@ -65,6 +76,8 @@ void RecordingGrid::OnColSizing(int col, int *width) {
 
 void RecordingGrid::OnCellChange(int oldCol, int newCol, long oldRow, long newRow) {
     Note("CellChange", {oldCol, newCol, oldRow, newRow});
+    if (m_onCellChanged)
+        m_onCellChanged();
 }
 
 void RecordingGrid::OnLeftColChange(int oldCol, int newCol) {
@@ -79,6 +92,8 @@ void RecordingGrid::OnTopRowChange(long oldRow, long newRow) {
 
 void RecordingGrid::OnLClicked(int col, long row, int updn, RECT *, POINT *, int processed) {
     Note("LClicked", {col, row, updn, processed});
+    if (m_onLClicked && updn)
+        m_onLClicked();
 }
 
 void RecordingGrid::OnRClicked(int col, long row, int updn, RECT *, POINT *, int processed) {
@@ -134,7 +149,46 @@ int RecordingGrid::OnEditContinue(int oldCol, long oldRow, int *newCol, long *ne
     return answer;
 }
 
-int RecordingGrid::OnSetupEditWindow(int, long, RECT *rect, CUGCell *, DWORD *style, int) {
+// The parameter of some messages is an address, which differs from run to run.
+void RecordingGrid::OnCellTypeNotify(long id, int col, long row, long message, LPARAM) {
+    Note("CellTypeNotify", {id, col, row, message});
+}
+
+int RecordingGrid::OnVScrollHint(long row, int percent, CUGHint *hint) {
+    if (m_onHint)
+        m_onHint(hint);
+    return Note("VScrollHint", {row, percent});
+}
+
+int RecordingGrid::OnHScrollHint(int col, int percent, CUGHint *hint) {
+    if (m_onHint)
+        m_onHint(hint);
+    return Note("HScrollHint", {col, percent});
+}
+
+DROPEFFECT RecordingGrid::OnDragEnter(COleDataObject *) {
+    Note("DragEnter", {});
+    return m_dropAnswer;
+}
+
+DROPEFFECT RecordingGrid::OnDragOver(COleDataObject *, int col, long row) {
+    Note("DragOver", {col, row});
+    return m_dropAnswer;
+}
+
+DROPEFFECT RecordingGrid::OnDragDrop(COleDataObject *, int col, long row) {
+    Note("DragDrop", {col, row});
+    return m_dropAnswer;
+}
+
+void RecordingGrid::OnDrawSetup(CDC *, int section) {
+    if (m_notesDrawSetup)
+        Note("DrawSetup", {section});
+}
+
+int RecordingGrid::OnSetupEditWindow(int col, long row, RECT *rect, CUGCell *, DWORD *style, int flag) {
+    if (m_notesEditSetup)
+        Note("SetupEditWindow", {col, row, flag});
     if (m_onSetupEditWindow)
         m_onSetupEditWindow(rect, style);
     return 0;

@@ -1,6 +1,8 @@
 // RecordingGrid: a grid control that notes every notification and can be told to veto.
 #pragma once
 
+#include "RecordingSource.h"
+
 #include "grid/UGCtrl.h"
 
 #include <functional>
@@ -17,6 +19,8 @@ public:
     HWND Corner() const { return m_cornerBtn.GetSafeHwnd(); }
     HWND VBar() const { return m_vScroll.GetSafeHwnd(); }
     HWND HBar() const { return m_hScroll.GetSafeHwnd(); }
+    HWND Hint() const { return m_hint.GetSafeHwnd(); }
+    HWND Tab() const { return m_tab.GetSafeHwnd(); }
     HWND Edit() const { return m_grid.m_edit.GetSafeHwnd(); }
 
     // The notifications since the last call, "Name(arguments)" each, without the "On", apart by blanks.
@@ -28,9 +32,13 @@ public:
     std::string Text(int col, long row);
 
     std::vector<std::string> m_events;
+    CallLog *m_log = nullptr; // borrowed; gets the events as well, among the calls of others
     std::set<std::string> m_vetoes;  // names of notifications that answer 0
     bool m_notesGetCell = false;     // it comes with every paint
     bool m_notesViewChanges = false; // LeftColChange and TopRowChange
+    bool m_notesDrawSetup = false;   // it comes with every paint too
+    bool m_notesEditSetup = false;   // SetupEditWindow, before EditStart
+    int m_dropAnswer = 0;            // of DragEnter, DragOver and DragDrop
     std::function<void(CUGCell *)> m_onGetCell;
     std::function<void(UINT *)> m_onKeyDown;
     std::function<void(UINT *)> m_onCharDown;
@@ -39,12 +47,17 @@ public:
     std::function<void(RECT *, DWORD *)> m_onSetupEditWindow;
     std::function<void(int *)> m_onSizing;
     std::function<void()> m_onHitBottom;
+    std::function<void()> m_onHitTop;
+    std::function<void()> m_onLClicked;
+    std::function<void()> m_onCanMove;
+    std::function<void()> m_onCellChanged;
+    std::function<void(CUGHint *)> m_onHint;
 
     void OnSetup() override { Note("Setup", {}); }
     int OnCanMove(int oldCol, long oldRow, int newCol, long newRow) override;
     int OnCanViewMove(int oldCol, long oldRow, int newCol, long newRow) override;
     void OnHitBottom(long numRows, long rowsPast, long rowsFound) override;
-    void OnHitTop(long numRows, long rowsPast) override { Note("HitTop", {numRows, rowsPast}); }
+    void OnHitTop(long numRows, long rowsPast) override;
     int OnCanSizeCol(int col) override { return Note("CanSizeCol", {col}); }
     void OnColSizing(int col, int *width) override;
     void OnColSized(int col, int *width) override { Note("ColSized", {col, *width}); }
@@ -84,8 +97,23 @@ public:
     int OnMenuStart(int col, long row, int section) override {
         return Note("MenuStart", {col, row, section});
     }
+    void OnMenuCommand(int col, long row, int section, int item) override {
+        Note("MenuCommand", {col, row, section, item});
+    }
+    void OnDataSourceNotify(int id, long message, long param) override {
+        Note("DataSourceNotify", {id, message, param});
+    }
+    void OnCellTypeNotify(long id, int col, long row, long message, LPARAM param) override;
+    int OnVScrollHint(long row, int percent, CUGHint *hint) override;
+    int OnHScrollHint(int col, int percent, CUGHint *hint) override;
+    DROPEFFECT OnDragEnter(COleDataObject *data) override;
+    DROPEFFECT OnDragOver(COleDataObject *data, int col, long row) override;
+    DROPEFFECT OnDragDrop(COleDataObject *data, int col, long row) override;
+    void OnDrawSetup(CDC *dc, int section) override;
+    void OnTabSelected(long id) override { Note("TabSelected", {id}); }
     int OnSetupEditWindow(int col, long row, RECT *rect, CUGCell *cell, DWORD *style, int flag) override;
 
-private:
-    int Note(const char *name, std::initializer_list<long> arguments);
+protected:
+    // Notes the event; what the notification answers, 0 to veto.
+    virtual int Note(const char *name, std::initializer_list<long> arguments);
 };

@@ -32,6 +32,8 @@ void PumpAll();
 // Handles messages until the predicate holds. Fails the test, naming what was awaited, after some seconds.
 void PumpUntil(const char *awaited, const std::function<bool()> &predicate);
 
+std::string Join(const std::vector<std::string> &parts, const char *between = " ");
+
 // A visible, active top-level window for controls. It notes the posted messages that it is told to.
 class HostWindow : public CWnd {
 public:
@@ -40,6 +42,8 @@ public:
     // "message(wParam,lParam)" each, with pointers shown as 1; messages from WM_USER on, and WM_COMMAND from
     // elsewhere than controls.
     std::string TakeMessages();
+    // What has been noted so far, without handling what waits.
+    std::string Noted() const { return Join(m_messages); }
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -101,4 +105,3 @@ std::string WindowText(HWND window);
 // system's own count is not to be had everywhere.
 int HighestDrawingHandle();
 int HighestMenuHandle();
-std::string Join(const std::vector<std::string> &parts, const char *between = " ");
