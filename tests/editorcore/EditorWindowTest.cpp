@@ -73,6 +73,8 @@ void TestEditor::OnLClicked(int col, long row, int updn, RECT *rect, POINT *poin
 
 EditorWindowTest::EditorWindowTest() {
     m_folder = (fs::temp_directory_path() / ("orvane" + std::to_string(::GetCurrentProcessId()))).string();
+    std::error_code none;
+    fs::remove_all(m_folder, none); // of a run of the same number that was ended
     fs::create_directories(m_folder);
     CEditorCore::Initialise(&m_service);
     TestApp().Answer({});

@@ -130,20 +130,26 @@ std::string SystemBoxAnswer::Seen() {
 namespace {
 
 std::function<void(HWND)> g_dialogAct;
+bool g_dialogAgain = false;
 
 void CALLBACK LookForDialog(HWND, UINT, UINT_PTR, DWORD) {
     const HWND active = ::GetActiveWindow();
     char className[16] = "";
     if (active != nullptr)
         ::GetClassNameA(active, className, sizeof className);
-    if (g_dialogAct && std::strcmp(className, "#32770") == 0)
+    if (!g_dialogAct || std::strcmp(className, "#32770") != 0)
+        return;
+    if (g_dialogAgain)
+        g_dialogAct(active);
+    else
         std::exchange(g_dialogAct, nullptr)(active);
 }
 
 } // namespace
 
-WithDialog::WithDialog(std::function<void(HWND)> act) {
+WithDialog::WithDialog(std::function<void(HWND)> act, bool again) {
     constexpr UINT kLookEveryMs = 5;
+    g_dialogAgain = again;
     g_dialogAct = std::move(act);
     m_timer = ::SetTimer(nullptr, 0, kLookEveryMs, LookForDialog);
 }

@@ -78,10 +78,11 @@ private:
     HHOOK m_hook;
 };
 
-// Does something with the next modal dialog, once it is up and its loop runs.
+// Does something with the next modal dialog, once it is up and its loop runs; or with every one, again and again, as
+// long as one is up.
 class WithDialog {
 public:
-    explicit WithDialog(std::function<void(HWND)> act);
+    explicit WithDialog(std::function<void(HWND)> act, bool again = false);
     ~WithDialog();
     WithDialog(const WithDialog &) = delete;
     WithDialog &operator=(const WithDialog &) = delete;
