@@ -84,8 +84,9 @@ EditorWindowTest::EditorWindowTest() {
 EditorWindowTest::~EditorWindowTest() {
     m_editors.clear();
     EXPECT_EQ(0, TestEditor::Live());
-    std::error_code ignored;
-    fs::remove_all(m_folder, ignored);
+    std::error_code error;
+    fs::remove_all(m_folder, error);
+    EXPECT_FALSE(error) << "a file is still open: " << error.message();
     TestApp().m_whileUp = nullptr;
 }
 

@@ -1,6 +1,8 @@
 #include "FileStore.h"
 
 #include <algorithm>
+#include <utility>
+
 #include <windows.h>
 
 namespace dbf {
@@ -25,7 +27,7 @@ std::string reason(const char *what, const std::string &path) {
 class Handle {
 public:
     explicit Handle(HANDLE handle) : handle_(handle == INVALID_HANDLE_VALUE ? nullptr : handle) {}
-    Handle(const Handle &) = delete;
+    Handle(Handle &&other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
     Handle &operator=(const Handle &) = delete;
     ~Handle() {
         if (handle_) {
@@ -40,7 +42,7 @@ private:
 
 class WinMapping final : public MappedFile {
 public:
-    WinMapping(HANDLE file, std::size_t size) : file_(file), size_(size) {}
+    WinMapping(Handle file, std::size_t size) : file_(std::move(file)), size_(size) {}
     ~WinMapping() override {
         if (base_) {
             UnmapViewOfFile(base_);
@@ -66,7 +68,7 @@ private:
 
 class WinWriter final : public FileWriter {
 public:
-    WinWriter(HANDLE file, std::string path) : file_(file), path_(std::move(path)) {}
+    WinWriter(Handle file, std::string path) : file_(std::move(file)), path_(std::move(path)) {}
 
     Result write(Bytes bytes) override {
         while (!bytes.empty()) {
@@ -99,15 +101,16 @@ std::int64_t ticks(const FILETIME &time) {
 class WinFiles final : public FileStore {
 public:
     Result map(const std::string &path, std::unique_ptr<MappedFile> &file, FileStamp &stamp) override {
-        const HANDLE handle = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                          FILE_ATTRIBUTE_NORMAL, nullptr);
+        Handle handle(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr));
         LARGE_INTEGER size{};
         FILETIME modified{};
-        if (handle == INVALID_HANDLE_VALUE) {
+        if (!handle.get()) {
             return Result::failure(reason("Cannot open", path));
         }
-        const bool known = GetFileSizeEx(handle, &size) && GetFileTime(handle, nullptr, nullptr, &modified);
-        auto mapping = std::make_unique<WinMapping>(handle, static_cast<std::size_t>(size.QuadPart));
+        const bool known =
+            GetFileSizeEx(handle.get(), &size) && GetFileTime(handle.get(), nullptr, nullptr, &modified);
+        auto mapping = std::make_unique<WinMapping>(std::move(handle), static_cast<std::size_t>(size.QuadPart));
         if (!known || !mapping->attach()) {
             return Result::failure(reason("Cannot map", path));
         }
@@ -135,10 +138,10 @@ public:
         for (int attempt = 0; attempt < 1000; ++attempt) {
             const std::string path =
                 target + "." + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(attempt) + ".tmp";
-            const HANDLE handle = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                              FILE_ATTRIBUTE_NORMAL, nullptr);
-            if (handle != INVALID_HANDLE_VALUE) {
-                writer = std::make_unique<WinWriter>(handle, path);
+            Handle handle(
+                CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+            if (handle.get()) {
+                writer = std::make_unique<WinWriter>(std::move(handle), path);
                 return Result::success();
             }
             if (GetLastError() != ERROR_FILE_EXISTS && GetLastError() != ERROR_ALREADY_EXISTS) {
