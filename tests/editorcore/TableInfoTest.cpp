@@ -138,6 +138,34 @@ TEST(TableInfoTest, ACopyIsWhole) {
 }
 
 // The whole file: version 4, the set's name, the number of tables, key and record of each.
+// The example of docs/formats-layout.md.
+TEST(LayoutFileTest, TheDocumentedExampleIsReadAndWrittenAsItStands) {
+    const std::string example = Bytes("04 00 00 00  03 73 65 74  01 00 00 00  00  02 00  02 00 00 00 01 00  01 00 00 00 "
+                                      "02 00 64 00 2c 01  12 00 14 00 32 00  01 00 04 4e 41 4d 45 05 00 06 00 "
+                                      "01 00 00 00");
+    CEditorLayout layout(nullptr);
+    ASSERT_TRUE(Loaded(layout, example));
+    CUIntArray shown, positions, widths;
+    layout.GetDisplayCols(shown);
+    layout.GetColPositions(positions);
+    layout.GetColWidths(widths);
+    EXPECT_TRUE(layout.IsTableFound());
+    EXPECT_STREQ("set", layout.GetLastXParmsSet());
+    EXPECT_EQ("0|0 1|100 300", Numbers(shown) + "|" + Numbers(positions) + "|" + Numbers(widths));
+    EXPECT_EQ(5, layout.GetColourSet("NAME").x);
+    EXPECT_EQ(6, layout.GetColourSet("NAME").y);
+    EXPECT_EQ(1, layout.GetFrozenCols());
+    EXPECT_EQ(Hex(example), Hex(Stored(layout)));
+}
+
+TEST(LayoutFileTest, SignedVersionsAndCountsReadAsVersionOneAndNone) {
+    CEditorLayout layout(nullptr);
+    EXPECT_TRUE(Loaded(layout, Bytes("ff ff ff ff  ff ff ff ff"))); // no set name, no entry
+    EXPECT_FALSE(layout.IsTableFound());
+    EXPECT_TRUE(Loaded(layout, Bytes("04 00 00 00  00  fe ff ff ff")));
+    EXPECT_FALSE(layout.IsTableFound());
+}
+
 TEST(LayoutFileTest, AFileOfOneTableIsWrittenByteByByte) {
     CEditorLayout layout(nullptr);
     CTableInfo info = ExampleTable();

@@ -17,7 +17,7 @@ std::string reason(const char *what, const std::string &path) {
 class Descriptor {
 public:
     explicit Descriptor(int fd) : fd_(fd) {}
-    Descriptor(const Descriptor &) = delete;
+    Descriptor(Descriptor &&other) noexcept : fd_(std::exchange(other.fd_, -1)) {}
     Descriptor &operator=(const Descriptor &) = delete;
     ~Descriptor() {
         if (fd_ >= 0) {
@@ -32,7 +32,13 @@ private:
 
 class PosixMapping final : public MappedFile {
 public:
-    PosixMapping(void *base, std::size_t size) : base_(base), size_(size) {}
+    // A mapping of no bytes cannot be made. Where the system refuses one, bytes() have no address.
+    PosixMapping(int file, std::size_t size)
+        : base_(size > 0 ? ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file, 0) : nullptr), size_(size) {
+        if (base_ == MAP_FAILED) {
+            base_ = nullptr;
+        }
+    }
     ~PosixMapping() override {
         if (base_) {
             ::munmap(base_, size_);
@@ -47,7 +53,7 @@ private:
 
 class PosixWriter final : public FileWriter {
 public:
-    PosixWriter(int fd, std::string path) : file_(fd), path_(std::move(path)) {}
+    PosixWriter(Descriptor fd, std::string path) : file_(std::move(fd)), path_(std::move(path)) {}
 
     Result write(Bytes bytes) override {
         while (!bytes.empty()) {
@@ -96,14 +102,11 @@ public:
             return Result::failure("Cannot open \"" + path + "\": it is not a file");
         }
         const auto size = static_cast<std::size_t>(info.st_size);
-        void *base = nullptr;
-        if (size > 0) { // a mapping of no bytes cannot be made
-            base = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, fd.get(), 0);
-            if (base == MAP_FAILED) {
-                return Result::failure(reason("Cannot map", path));
-            }
+        auto mapping = std::make_unique<PosixMapping>(fd.get(), size);
+        if (size > 0 && mapping->bytes().data() == nullptr) {
+            return Result::failure(reason("Cannot map", path));
         }
-        file = std::make_unique<PosixMapping>(base, size);
+        file = std::move(mapping);
         stamp = stampOf(info);
         return Result::success();
     }
@@ -125,9 +128,9 @@ public:
         for (int attempt = 0; attempt < 1000; ++attempt) {
             const std::string path =
                 target + "." + std::to_string(::getpid()) + "-" + std::to_string(attempt) + ".tmp";
-            const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
-            if (fd >= 0) {
-                writer = std::make_unique<PosixWriter>(fd, path);
+            Descriptor fd(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+            if (fd.get() >= 0) {
+                writer = std::make_unique<PosixWriter>(std::move(fd), path);
                 return Result::success();
             }
             if (errno != EEXIST) {
