@@ -121,7 +121,7 @@ void CEditorCore::OnLClicked(int col, long row, int updn, RECT *, POINT *, int) 
     } else if (updn != 0 && !IsDown(VK_SHIFT)) {
         ClearSelections();
         RedrawAll();
-    } else if (updn != 0) {
+    } else if (updn != 0 && col >= 0 && row >= 0) {
         int left, right;
         long top, bottom;
         if (GetCurrentSelection(&left, &top, &right, &bottom) == GRID_SUCCESS) {
