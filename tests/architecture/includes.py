@@ -10,6 +10,7 @@ MAY_INCLUDE = {
     "framework": {"framework"},
     "grid": {"grid", "framework"},
     "lookup": {"lookup", "framework"},
+    "search": {"search"},
     "editorcore": {"editorcore", "lookup", "grid", "framework"},
     "host": {"host", "editorcore", "lookup", "grid", "framework"},
 }

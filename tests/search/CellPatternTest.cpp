@@ -1,0 +1,69 @@
+#include "search/CellPattern.h"
+#include "search/PatternText.h"
+#include "search/RequiredText.h"
+
+#include <gtest/gtest.h>
+
+#include <boost/regex.hpp>
+
+using namespace Search;
+
+namespace {
+
+TEST(CellPattern, ThePatternFitsTheWholeText) {
+    const CellPattern pattern("a.c", true);
+    EXPECT_TRUE(pattern.Matches("abc"));
+    EXPECT_FALSE(pattern.Matches("abcd"));
+    EXPECT_FALSE(pattern.Matches(""));
+}
+
+TEST(CellPattern, OneThatDoesNotCompileMatchesNothing) {
+    const CellPattern pattern("a(", true);
+    EXPECT_FALSE(pattern.Matches("a("));
+    std::string replaced = "kept";
+    EXPECT_FALSE(pattern.ReplaceFirst("a(", "x", &replaced));
+}
+
+TEST(CellPattern, BacktrackingWithoutEndIsGivenUpAndNoMatch) {
+    const CellPattern pattern("(a|aa)*(a|aa)*(a|aa)*(a|aa)*(a|aa)*b", true);
+    EXPECT_FALSE(pattern.Matches(std::string(4000, 'a') + "c"));
+    EXPECT_TRUE(pattern.Matches("aab"));
+}
+
+TEST(CellPattern, OnlyTheFirstMatchIsReplaced) {
+    std::string replaced;
+    EXPECT_TRUE(CellPattern("b", true).ReplaceFirst("abab", "x", &replaced));
+    EXPECT_EQ("axab", replaced);
+}
+
+TEST(RequiredText, TheLongestRunThatEveryMatchHolds) {
+    EXPECT_EQ("hello", RequiredText("\\A(?<_before>.*?)(hello)(?<_after>.*)"));
+    EXPECT_EQ("lo.x", RequiredText("\\A(a.*?lo\\.x)\\z"));
+    EXPECT_EQ("wor", RequiredText("wor?wor"));
+    EXPECT_EQ("abc", RequiredText("abc+de*"));
+    EXPECT_EQ("cat", RequiredText("\\A(?<_before>.*?)(?<!\\w)(cat)(?!\\w)(?<_after>.*)"));
+}
+
+TEST(RequiredText, WhereTheMeaningIsNotPlainThereIsNone) {
+    for (const char *pattern : {"a|b", "(ab)?", "(ab)*c", "[ab]c", "(?i)abc", "a{0}bc", "\\x41bc", "(?=a)b", "\\Qab\\E", ""})
+        EXPECT_EQ("", RequiredText(pattern)) << pattern;
+}
+
+// What is told without the expression is what the expression says.
+TEST(RequiredText, TheAnswerIsTheExpressions) {
+    const char *const typed[] = {"a", "ab", "a*b", "?", "#", "a#", "b?a", "\\*", "A", "ab*", "*b", "a.b"};
+    const char *const texts[] = {"", "a", "ab", "aab", "b a", "A", "AB", "*", "1", "a1", "bxa", "a.b", "axb", "b"};
+    for (const char *find : typed) {
+        for (int mode = kWholeCell; mode <= kWholeWords; ++mode) {
+            const std::string pattern = RegexifyFindString(ConvertWildcardsToRegex(find), mode);
+            for (const bool matchCase : {true, false}) {
+                const CellPattern tried(pattern, matchCase);
+                const boost::regex plain(pattern, matchCase ? boost::regex::perl : boost::regex::perl | boost::regex::icase);
+                for (const char *text : texts)
+                    EXPECT_EQ(boost::regex_match(text, plain), tried.Matches(text)) << pattern << " on " << text;
+            }
+        }
+    }
+}
+
+} // namespace
