@@ -12,7 +12,8 @@ MAY_INCLUDE = {
     "lookup": {"lookup", "framework"},
     "search": {"search"},
     "editorcore": {"editorcore", "lookup", "grid", "framework"},
-    "host": {"host", "editorcore", "lookup", "grid", "framework"},
+    "dataeditor": {"dataeditor", "editorcore", "lookup", "search", "grid", "framework"},
+    "host": {"host", "dataeditor", "search", "editorcore", "lookup", "grid", "framework"},
 }
 LONGEST = 800  # lines
 INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([^">]+)[">]', re.M)

@@ -27,11 +27,18 @@ public:
     void SetEnterKeyTab(bool enterIsTab) override;
     bool IsRightJustifyingNumbers() override { return true; }
     bool IsRightJustifyingText() override { return false; }
-    void SetGridLines(bool, bool) override {}
-    void GetGridLines(bool *horizontal, bool *vertical) override { *horizontal = *vertical = true; }
+    void SetGridLines(bool horizontal, bool vertical) override {
+        m_horizontal = horizontal;
+        m_vertical = vertical;
+    }
+    void GetGridLines(bool *horizontal, bool *vertical) override {
+        *horizontal = m_horizontal;
+        *vertical = m_vertical;
+    }
 
     LOGFONTA m_cellFont{};
     LOGFONTA m_headingFont{};
+    bool m_horizontal = true, m_vertical = true;
     int m_undoLevels = 5;
     bool m_outOfMemory = false; // GetUndoLevels throws
     bool m_enterIsTab = false;
@@ -55,7 +62,9 @@ public:
     // The sources of m_sources in turn, then null.
     CUGDataSource *CreateDataSource(const char *path) override;
     void ShowFileInformation(CUGDataSource *) override {}
-    bool PromptSaveAs(CString &, bool *, bool) override { return false; }
+    bool PromptSaveAs(CString &name, bool *useFiltered, bool attached) override {
+        return m_onSaveAs && m_onSaveAs(name, useFiltered, attached);
+    }
     bool PromptFieldOrder(CStringArray *names) override { return m_onOrder && m_onOrder(names); }
     void PromptFieldVisibility(CStringArray &names, CArray<bool, bool> &shown) override {
         if (m_onVisibility)
@@ -66,8 +75,10 @@ public:
                       CArray<CExecuteInfo *, CExecuteInfo *> &) override {
         return false;
     }
-    void ShowFindDialog(bool, CWnd *, UINT) override {}
-    void ShowReplaceDialog(bool, CWnd *, UINT) override {}
+    void ShowFindDialog(bool selection, CWnd *, UINT message) override { NoteDialog("FindDialog", selection, message); }
+    void ShowReplaceDialog(bool selection, CWnd *, UINT message) override {
+        NoteDialog("ReplaceDialog", selection, message);
+    }
     CVEditorOptions *GetEditorOptions() override { return &m_options; }
     void GetDefaultFieldWidths(UINT *code, UINT *description) override { *code = *description = 10; }
     bool EditLookupTableProperties(bool *, bool *, bool *, bool *) override { return false; }
@@ -78,8 +89,15 @@ public:
     }
     void EditLookupAdminOptions(CLookupOptionsMgr *) override {}
     void SetDefaultFieldWidths(UINT, UINT) override {}
-    bool EditFilter(int, const char *) override { return false; }
-    bool SelectFilter(int *) override { return false; }
+    bool EditFilter(int number, const char *path) override {
+        m_log->Note("EditFilter(" + std::to_string(number) + "," + path + ")");
+        return m_filterAnswer;
+    }
+    bool SelectFilter(int *number) override {
+        m_log->Note("SelectFilter(" + std::to_string(*number) + ")");
+        *number = m_filterChosen;
+        return m_filterAnswer;
+    }
     void DoWaitCursor(int step) override { m_log->Note("Wait(" + std::to_string(step) + ")"); }
     void ShowMessage(const char *text) override { m_log->Note(std::string("Message(") + text + ")"); }
 
@@ -88,8 +106,15 @@ public:
     int m_abort = 0;
     std::function<void(CEditorCore *)> m_onTitle;
     std::function<bool(CStringArray *)> m_onOrder;
+    std::function<bool(CString &, bool *, bool)> m_onSaveAs;
+    bool m_filterAnswer = true;
+    int m_filterChosen = 0;
     std::function<void(CStringArray &, CArray<bool, bool> &)> m_onVisibility;
 
 private:
+    void NoteDialog(const char *which, bool selection, UINT message) {
+        m_log->Note(std::string(which) + "(" + std::to_string(selection) + "," + std::to_string(message) + ")");
+    }
+
     CallLog *m_log;
 };

@@ -67,8 +67,8 @@ int RecordingSource::GetColName(int col, CString *name) {
     return GRID_SUCCESS;
 }
 
-int RecordingSource::GetColType(int, int *type) {
-    *type = 0;
+int RecordingSource::GetColType(int col, int *type) {
+    *type = col >= 0 && static_cast<size_t>(col) < m_types.size() ? m_types[static_cast<size_t>(col)] : 0;
     return GRID_SUCCESS;
 }
 
@@ -135,7 +135,14 @@ int RecordingSource::SetOption(int option, long value1, long) {
     return Done("SetOption", std::to_string(option) + "," + std::to_string(value1));
 }
 
-int RecordingSource::GetOption(int option, void *value1, void *) {
+int RecordingSource::GetOption(int option, void *value1, void *value2) {
+    constexpr int kTestRecord = 2;
+    if (option == kTestRecord) { // asked too often to be noted
+        if (!m_passes)
+            return GRID_NOT_IMPLEMENTED;
+        *static_cast<int *>(value2) = m_passes(*static_cast<long *>(value1)) ? 1 : 0;
+        return GRID_SUCCESS;
+    }
     const int result = Done("GetOption", std::to_string(option));
     if (option != UGSRC_WRITABLE || !m_answersWritable)
         return GRID_NOT_IMPLEMENTED;

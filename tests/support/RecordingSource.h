@@ -3,6 +3,7 @@
 
 #include "grid/UGDataSource.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -60,6 +61,8 @@ public:
     std::map<std::string, int> m_results; // by operation's name: what it answers instead, having done nothing
     long m_reads = 0;                     // GetCell calls
     std::vector<long> m_rowsRead;         // of those of cells, not of the side heading
+    std::function<bool(long)> m_passes; // whether a record, 1-based, passes the filter; empty: it cannot be told
+    std::vector<int> m_types;           // by column; 0 where there is none
     long m_growsBy = -1;                  // rows that RequestMoreRows reports; below 0 it is not supported
 
 private:

@@ -1,0 +1,219 @@
+// Filters: attaching them, asking the source, and stepping over the records that they leave out.
+#include "dataeditor/OrvaneEditor.h"
+
+#include "editorcore/PaintingScope.h"
+#include "editorcore/RecordsDlg.h"
+
+namespace {
+
+// Options of the source.
+constexpr int kTestRecord = 2;
+constexpr int kAttachFilter = 4;
+constexpr int kDetachFilter = 5;
+constexpr int kFilteredOnly = 6;
+
+bool IsShiftDown() {
+    return ::GetKeyState(VK_SHIFT) < 0;
+}
+
+// Raised while a question is with the source.
+class FilterQuestion {
+public:
+    explicit FilterQuestion(bool *flag) : m_flag(flag) { *m_flag = true; }
+    ~FilterQuestion() { *m_flag = false; }
+    FilterQuestion(const FilterQuestion &) = delete;
+    FilterQuestion &operator=(const FilterQuestion &) = delete;
+
+private:
+    bool *m_flag;
+};
+
+} // namespace
+
+bool COrvaneEditor::ms_bInFilterTest = false;
+
+// A source that cannot answer hides nothing; one that asks back from within its answer is not asked again.
+bool COrvaneEditor::RecPassesFilter(long record) {
+    if (record < 1)
+        return true;
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    if (source == nullptr || source->GetNumRows() < 1)
+        return false;
+    if (m_nFilter == kNoFilter || ms_bInFilterTest)
+        return true;
+    const FilterQuestion asking(&ms_bInFilterTest);
+    int result = 0;
+    return source->GetOption(kTestRecord, &record, &result) != GRID_SUCCESS || result == 1;
+}
+
+void COrvaneEditor::SetUseFilteredRecords(bool use) {
+    m_bUseFilteredRecords = use;
+    if (CUGDataSource *source = GetCurrentDataSrc(false))
+        source->SetOption(kFilteredOnly, use ? 1 : 0, 0);
+}
+
+void COrvaneEditor::OnAttachFilter(int number) {
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    if (source != nullptr && source->SetOption(kAttachFilter, number, 0) == GRID_SUCCESS)
+        m_nFilter = number;
+    RedrawAll();
+}
+
+void COrvaneEditor::OnSelectAttachFilter() {
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    int number = kNoFilter;
+    if (source == nullptr || !ms_pAppInterface->SelectFilter(&number) ||
+        source->SetOption(kAttachFilter, number, 0) != GRID_SUCCESS)
+        return;
+    m_nFilter = number;
+    RedrawAll();
+}
+
+// Editing hands its result over as the default filter, whichever was edited.
+void COrvaneEditor::OnEditFilter() {
+    const int number = m_nFilter < kDefaultFilter ? kDefaultFilter : m_nFilter;
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    if (source != nullptr && ms_pAppInterface->EditFilter(number, m_strFilePath) &&
+        source->SetOption(kAttachFilter, kDefaultFilter, 0) == GRID_SUCCESS)
+        m_nFilter = kDefaultFilter;
+    RedrawAll();
+}
+
+void COrvaneEditor::OnDetachFilter() {
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    if (source != nullptr && source->SetOption(kDetachFilter, 0, 0) == GRID_SUCCESS)
+        m_nFilter = kNoFilter;
+    RedrawAll();
+}
+
+// --- Navigation
+
+// The next row from `row` on, in steps of 1 or -1, whose record passes; -1 when there is none.
+long COrvaneEditor::FindPassing(long row, int step) {
+    const long rows = GetNumberRows();
+    for (; row >= 0 && row < rows; row += step) {
+        if (RecPassesFilter(row + 1))
+            return row;
+    }
+    return -1;
+}
+
+// Goes towards the next record that passes. Outside an edit the grid steps on by itself for Up, Down and Tab, and for
+// an Enter that counts as Tab, so the row is left one short of the goal.
+bool COrvaneEditor::StepToRecord(UINT key, int step, int newCol) {
+    const int col = GetCurrentCol();
+    const long goal = FindPassing(GetCurrentRow() + step, step);
+    if (goal < 0) {
+        m_bStay = true; // nothing passes further on
+        return true;
+    }
+    if (IsInEditMode()) {
+        GotoRow(goal);
+        if (newCol != col)
+            GotoCol(newCol);
+        return true;
+    }
+    const bool plainEnter = key == VK_RETURN && !IsEnterKeyTab();
+    if (key == VK_RETURN && step < 0 && !plainEnter) {
+        // Backwards an Enter that counts as Tab gets no step of the grid's.
+        GotoCell(newCol, goal);
+        m_bStay = true;
+        return true;
+    }
+    GotoRow(plainEnter ? goal : goal - step);
+    return true;
+}
+
+bool COrvaneEditor::OnNavigateFilteredRecords(UINT key) {
+    m_bStay = false;
+    if (!IsFilterAttached() || !IsUsingFilteredRecords())
+        return false;
+    const bool shift = IsShiftDown();
+    const int col = GetCurrentCol();
+    const int lastCol = GetNumberCols() - 1;
+    if (key == VK_TAB || (key == VK_RETURN && IsEnterKeyTab())) {
+        if (shift && col == 0)
+            return StepToRecord(key, -1, lastCol);
+        return col == lastCol && StepToRecord(key, 1, 0); // with Shift too, which is wanted
+    }
+    switch (key) {
+    case VK_RETURN: return StepToRecord(key, shift ? -1 : 1, col);
+    case VK_DOWN: return StepToRecord(key, 1, col);
+    case VK_UP: return StepToRecord(key, -1, col);
+    default: return false;
+    }
+}
+
+void COrvaneEditor::OnKeyDown(UINT *key, int processed) {
+    if (!OnNavigateFilteredRecords(*key))
+        CEditorCore::OnKeyDown(key, processed);
+    else if (m_bStay)
+        *key = static_cast<UINT>(-1);
+}
+
+// The character of a key that was dealt with moves nothing further.
+void COrvaneEditor::OnCharDown(UINT *key, int processed) {
+    const bool stay = m_bStay && (*key == VK_TAB || *key == VK_RETURN);
+    m_bStay = false;
+    if (!stay)
+        CEditorCore::OnCharDown(key, processed);
+}
+
+// The grid's move of an open edit as the key that it stands for.
+int COrvaneEditor::OnEditContinue(int oldCol, long oldRow, int *newCol, long *newRow) {
+    if (IsInEditMode()) {
+        const int lastCol = GetNumberCols() - 1;
+        UINT key = 0;
+        if ((*newCol == 0 && oldCol == lastCol) || (*newCol == lastCol && oldCol == 0))
+            key = VK_TAB;
+        else if (*newRow == oldRow + 1)
+            key = VK_DOWN;
+        else if (*newRow == oldRow - 1)
+            key = VK_UP;
+        if (key != 0 && OnNavigateFilteredRecords(key)) {
+            *newCol = GetCurrentCol();
+            *newRow = GetCurrentRow();
+        }
+        m_bStay = false;
+    }
+    return CEditorCore::OnEditContinue(oldCol, oldRow, newCol, newRow);
+}
+
+// --- Commands on records
+
+// A number beyond the end lands on the last record but one, the exact last one on the last.
+void COrvaneEditor::OnGotoRecord() {
+    CResourceScope resources;
+    CInsertRecordsDlg dialog("Goto Record", "Goto Record", nullptr);
+    if (dialog.DoModal() != IDOK)
+        return;
+    long record = dialog.m_nRecords;
+    if (record < 1) {
+        AfxMessageBox("Please enter a number one or greater.");
+        return;
+    }
+    if (record > GetNumberRows())
+        record = GetNumberRows() - 1;
+    if (GotoCell(GetCurrentCol(), record - 1) != GRID_SUCCESS) {
+        CString text;
+        text.Format("Could not go to record '%d'!", static_cast<int>(record));
+        AfxMessageBox(text, MB_ICONHAND);
+    }
+}
+
+void COrvaneEditor::OnDeleteRows() {
+    if (IsInMultipleSelection() || !IsFilterAttached() || !IsUsingFilteredRecords()) {
+        CEditorCore::OnDeleteRows(false);
+        return;
+    }
+    CUGDataSource *source = GetCurrentDataSrc(true);
+    if (source == nullptr || AfxMessageBox("Delete filtered records?\n\n"
+                                           "(You will not be able to undo this operation)",
+                                           MB_YESNO | MB_ICONQUESTION) == IDNO)
+        return;
+    CPaintingScope quiet(this);
+    if (source->DeleteRows(-1, -1) != GRID_SUCCESS)
+        AfxMessageBox("Error while deleting filtered records!", MB_ICONHAND);
+    OnEditNotify();
+    SetNumberRows(source->GetNumRows(), 1);
+}

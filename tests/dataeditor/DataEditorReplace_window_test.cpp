@@ -1,0 +1,191 @@
+// Replacing: questions, answers, undo steps and the summary.
+#include "DataEditorTest.h"
+
+#include "dataeditor/DataEditorDlgs.h"
+#include "resources/ResourceIds.h"
+#include "search/PatternText.h"
+
+namespace {
+
+class DataEditorReplaceTest : public DataEditorTest {
+protected:
+    TestDataEditor &OpenColumn(std::initializer_list<const char *> texts) {
+        TestDataEditor &editor = OpenEditor(1, static_cast<long>(texts.size()));
+        long row = 0;
+        for (const char *text : texts)
+            m_source->m_rows[row++][0] = text;
+        return editor;
+    }
+    std::string Column(int col = 0) {
+        std::string all;
+        for (const auto &row : m_source->m_rows)
+            all += (all.empty() ? "" : ",") + row[col];
+        return all;
+    }
+    // Answers the questions in turn by their buttons, and notes them.
+    void Replace(TestDataEditor &editor, const char *find, const char *by, std::vector<int> answers,
+                 int direction = kSearchDown, bool allFields = false, int mode = Search::kAnywhere, bool regex = false) {
+        size_t next = 0;
+        WithDialog act(
+            [&](HWND dialog) {
+                m_questions += WindowText(dialog) + ": " + WindowText(::GetDlgItem(dialog, IDC_ASK_MESSAGE)) + "\n";
+                ::SendMessageA(dialog, WM_COMMAND, next < answers.size() ? answers[next++] : IDCANCEL, 0);
+            },
+            true);
+        CFindReplaceData data;
+        data.SetData(find, by, true, allFields, direction, mode, regex);
+        ::SendMessageA(editor.m_hWnd, kMsgReplaceNext, reinterpret_cast<WPARAM>(&data), 0);
+    }
+    std::string Transactions() {
+        std::string seen;
+        const std::string calls = m_log.Take();
+        for (size_t at = 0; at < calls.size();) {
+            const size_t end = std::min(calls.find(' ', at), calls.size());
+            const std::string call = calls.substr(at, end - at);
+            seen += call == "src.StartTransaction()" ? "[" : call == "src.EndTransaction()" ? "]"
+                    : call.compare(0, 11, "src.SetCell") == 0 ? "x" : "";
+            at = end + 1;
+        }
+        return seen;
+    }
+    static constexpr int kYes = CYesNoCancelAllDlg::kYes, kNo = CYesNoCancelAllDlg::kNo, kAll = CYesNoCancelAllDlg::kAll;
+    std::string m_questions;
+};
+
+TEST_F(DataEditorReplaceTest, EachConfirmedReplacementIsAnUndoStepOfItsOwn) {
+    TestDataEditor &editor = OpenColumn({"a cat", "dog", "cats"});
+    Replace(editor, "cat", "cow", {kYes, kYes});
+    EXPECT_EQ("a cow,dog,cows", Column());
+    EXPECT_EQ("Test: Replace 'a cat' with 'a cow'?\nTest: Replace 'cats' with 'cows'?\n", m_questions);
+    EXPECT_EQ("[x][x]", Transactions());
+}
+
+TEST_F(DataEditorReplaceTest, TheSummaryGoesToTheHost) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat"});
+    Replace(editor, "cat", "cow", {kYes, kYes});
+    EXPECT_NE(std::string::npos, m_log.Take().find("Message(Found and replaced 2 string(s).)"));
+    EXPECT_EQ("", TestApp().TakeBoxes());
+}
+
+TEST_F(DataEditorReplaceTest, NoToEveryQuestionEndsWithASummaryOfNone) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat"});
+    Replace(editor, "cat", "cow", {kNo, kNo});
+    EXPECT_EQ("cat,cat", Column());
+    EXPECT_NE(std::string::npos, m_log.Take().find("Message(Found and replaced 0 string(s).)"));
+}
+
+TEST_F(DataEditorReplaceTest, CancelAtTheFirstQuestionShowsNothingAtAll) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat"});
+    Replace(editor, "cat", "cow", {IDCANCEL});
+    EXPECT_EQ("cat,cat", Column());
+    EXPECT_EQ("", TestApp().TakeBoxes());
+    EXPECT_EQ("[]", Transactions());
+}
+
+TEST_F(DataEditorReplaceTest, AfterAllTheRestIsOneUndoStep) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat", "dog", "cat", "cat"});
+    Replace(editor, "cat", "cow", {kYes, kNo, kAll});
+    EXPECT_EQ("cow,cat,dog,cow,cow", Column());
+    EXPECT_EQ("[x][xx]", Transactions());
+}
+
+TEST_F(DataEditorReplaceTest, ARefusedCellStaysInTheOpenStep) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat"});
+    Replace(editor, "cat", "cow", {kNo, kYes});
+    EXPECT_EQ("[x]", Transactions());
+}
+
+TEST_F(DataEditorReplaceTest, TheStartIsTheCurrentCellItself) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat", "cat"});
+    editor.GotoCell(0, 1);
+    Replace(editor, "cat", "cow", {kAll});
+    EXPECT_EQ("cat,cow,cow", Column());
+}
+
+TEST_F(DataEditorReplaceTest, AllDirectionsWrapAndTheStartIsTestedTwice) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat", "cat"});
+    editor.GotoCell(0, 1);
+    Replace(editor, "cat", "catcat", {kYes, kNo, kNo, kNo}, kSearchAll);
+    EXPECT_EQ("cat,catcat,cat", Column());
+    EXPECT_EQ("Test: Replace 'cat' with 'catcat'?\nTest: Replace 'cat' with 'catcat'?\n"
+              "Test: Replace 'cat' with 'catcat'?\nTest: Replace 'catcat' with 'catcatcat'?\n",
+              m_questions);
+}
+
+TEST_F(DataEditorReplaceTest, UpGoesUpAndAllFieldsGoFromTheLeft) {
+    TestDataEditor &editor = OpenEditor(2, 3);
+    for (auto &row : m_source->m_rows)
+        row = {"cat", "cat"};
+    editor.GotoCell(0, 1);
+    Replace(editor, "cat", "cow", {kAll}, kSearchUp, true);
+    EXPECT_EQ("cow,cow,cat|cow,cow,cow", Column(0) + "|" + Column(1));
+}
+
+TEST_F(DataEditorReplaceTest, ASelectionIsReplacedWithin) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat", "cat"});
+    editor.ClearSelections();
+    editor.SelectRange(0, 1, 0, 1);
+    Replace(editor, "cat", "cow", {kAll}, kSearchSelection);
+    EXPECT_EQ("cat,cow,cat", Column());
+}
+
+TEST_F(DataEditorReplaceTest, NothingFoundIsSaid) {
+    TestDataEditor &editor = OpenColumn({"cat"});
+    Replace(editor, "horse", "cow", {});
+    EXPECT_EQ("Could not match the search string 'horse'.|0", TestApp().TakeBoxes());
+    Replace(editor, "a(", "cow", {}, kSearchDown, false, Search::kAnywhere, true);
+    EXPECT_EQ("Could not match the search string 'a('.|0", TestApp().TakeBoxes());
+}
+
+TEST_F(DataEditorReplaceTest, ATypedExpressionFillsItsFormat) {
+    TestDataEditor &editor = OpenColumn({"Smith, John"});
+    Replace(editor, "(\\w+), (\\w+)", "$2 $1", {kAll}, kSearchDown, false, Search::kAnywhere, true);
+    EXPECT_EQ("John Smith", Column());
+}
+
+TEST_F(DataEditorReplaceTest, ACellThatCannotBeSetEndsTheRun) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat"});
+    m_source->m_results["SetCell"] = GRID_ERROR;
+    Replace(editor, "cat", "cow", {kYes, kYes});
+    EXPECT_EQ("Could not set text in cell 0, 0!|16", TestApp().TakeBoxes());
+    EXPECT_EQ("[x]", Transactions());
+}
+
+TEST_F(DataEditorReplaceTest, AStopClosesTheStepAndSaysNothing) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat"});
+    m_service.m_abort = 1;
+    Replace(editor, "cat", "cow", {kAll});
+    EXPECT_EQ("cat,cat", Column());
+    EXPECT_EQ("", TestApp().TakeBoxes());
+    EXPECT_EQ("", Transactions());
+}
+
+TEST_F(DataEditorReplaceTest, InReadOnlyModeTheMessageDoesNothing) {
+    TestDataEditor &editor = OpenEditor(1, 1, kNoFilter, kEditReadOnly);
+    Replace(editor, "0", "x", {kAll});
+    EXPECT_EQ("0.0", Column());
+    EXPECT_EQ("", TestApp().TakeBoxes());
+}
+
+TEST_F(DataEditorReplaceTest, WhatTheFilterLeavesOutIsNeverReplaced) {
+    TestDataEditor &editor = OpenFiltered(1, 3, {2});
+    for (auto &row : m_source->m_rows)
+        row[0] = "cat";
+    Replace(editor, "cat", "cow", {kAll});
+    EXPECT_EQ("cat,cow,cat", Column());
+}
+
+TEST_F(DataEditorReplaceTest, ADollarInFrontOfBothIsRepeatModeAndLeavesTheReplacement) {
+    TestDataEditor &editor = OpenColumn({"", "x"});
+    WithDialog act([](HWND dialog) { ::SendMessageA(dialog, WM_COMMAND, kAll, 0); }, true);
+    editor.DoReplace(0, "$", "$new", "$", kSearchDown, true);
+    EXPECT_EQ("new,x", Column()); // one replacement a cell, at the most
+}
+
+TEST_F(DataEditorReplaceTest, ReplacingLeavesFindAgainAlone) {
+    TestDataEditor &editor = OpenColumn({"cat"});
+    Replace(editor, "cat", "cow", {kAll});
+    EXPECT_FALSE(editor.CanFindAgain());
+}
+
+} // namespace
