@@ -169,7 +169,7 @@ private:
     long FindPassing(long row, int step);
     bool StepToRecord(UINT key, int step, int newCol);
     const Search::CellPattern &PatternOf(const char *find, bool matchCase);
-    bool CellText(int col, long row, CString *text);
+    const char *CellText(int col, long row);
     bool WalkColumn(ColumnSearch *search);
     bool FindInSearchOrder(ColumnSearch *search);
     bool FindByWrapping(ColumnSearch *search);
@@ -190,5 +190,6 @@ private:
     bool m_bStay = false; // the key just handled moves nothing further
     std::unique_ptr<Search::CellPattern> m_pPattern;
     CString m_strPattern;
+    CUGCell m_searchedCell; // one for all, a search makes none anew
     bool m_bPatternMatchCase = false;
 };

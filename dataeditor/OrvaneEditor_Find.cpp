@@ -3,6 +3,8 @@
 
 #include "search/CellPattern.h"
 
+#include <cstring>
+
 // How a search over columns stands.
 struct COrvaneEditor::ColumnSearch {
     const char *find;
@@ -56,27 +58,22 @@ const Search::CellPattern &COrvaneEditor::PatternOf(const char *find, bool match
     return *m_pPattern;
 }
 
-bool COrvaneEditor::CellText(int col, long row, CString *text) {
-    CUGCell cell;
-    if (GetCell(col, row, &cell) != GRID_SUCCESS) {
-        AfxMessageBox("Could not get cell!", MB_ICONHAND);
-        return false;
-    }
-    if (cell.GetText(text) != GRID_SUCCESS) {
-        AfxMessageBox("Could not get cell text!", MB_ICONHAND);
-        return false;
-    }
-    return true;
+// Null after an error that was told. The text lives until the next call.
+const char *COrvaneEditor::CellText(int col, long row) {
+    if (GetCell(col, row, &m_searchedCell) == GRID_SUCCESS)
+        return m_searchedCell.GetText();
+    AfxMessageBox("Could not get cell!", MB_ICONHAND);
+    return nullptr;
 }
 
 bool COrvaneEditor::IsMatchWithCellText(int col, long row, const char *find, bool matchCase, bool *match) {
     *match = false;
     if (!RecPassesFilter(row + 1))
         return true; // what the filter leaves out is never found
-    CString text;
-    if (!CellText(col, row, &text))
+    const char *text = CellText(col, row);
+    if (text == nullptr)
         return false;
-    *match = PatternOf(find, matchCase).Matches(text, static_cast<size_t>(text.GetLength()));
+    *match = PatternOf(find, matchCase).Matches(text, std::strlen(text));
     return true;
 }
 

@@ -101,10 +101,10 @@ bool COrvaneEditor::ReplaceCellStringIfMatch(int col, long row, const char *find
     *matched = *replaced = false;
     if (!RecPassesFilter(row + 1))
         return true;
-    CString cellText;
-    if (!CellText(col, row, &cellText))
+    const char *cellText = CellText(col, row);
+    if (cellText == nullptr)
         return false;
-    std::string text(cellText, static_cast<size_t>(cellText.GetLength()));
+    std::string text(cellText);
     std::string pattern = find;
     const long long delta = static_cast<long long>(std::string(replace).size()) - static_cast<long long>(pattern.size()) + 1;
     for (long long offset = 0;;) {
