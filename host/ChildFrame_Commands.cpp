@@ -36,10 +36,12 @@ void CChildFrame::OnEditRedo() {
 }
 
 void CChildFrame::OnEditCut() {
+    m_editor.SelectCurrentIfNothing();
     m_editor.OnCut(true);
 }
 
 void CChildFrame::OnEditCopy() {
+    m_editor.SelectCurrentIfNothing();
     m_editor.OnCopy();
 }
 
@@ -48,6 +50,7 @@ void CChildFrame::OnEditPaste() {
 }
 
 void CChildFrame::OnEditBlank() {
+    m_editor.SelectCurrentIfNothing();
     m_editor.OnCut(false);
 }
 

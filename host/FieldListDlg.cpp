@@ -83,9 +83,10 @@ void CFieldOrderList::OnKeyDown(UINT key, UINT repeat, UINT flags) {
         CListBox::OnKeyDown(key, repeat, flags);
 }
 
+// The system hears of the key as well: Alt with nothing between its down and up would go to the menu.
 void CFieldOrderList::OnSysKeyDown(UINT key, UINT repeat, UINT flags) {
-    if (!MoveByKey(key))
-        CListBox::OnSysKeyDown(key, repeat, flags);
+    MoveByKey(key);
+    CListBox::OnSysKeyDown(key, repeat, flags);
 }
 
 // The list itself took the capture as the button went down, and lets it go as it comes up.

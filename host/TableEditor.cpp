@@ -42,10 +42,18 @@ void CTableEditor::SelectAll() {
     RedrawAll();
 }
 
+void CTableEditor::SelectCurrentIfNothing() {
+    int left, right;
+    long top, bottom;
+    if (!IsInEditMode() && GetCurrentSelection(&left, &top, &right, &bottom) != GRID_SUCCESS)
+        EnableMultiSelect(1);
+}
+
 // The library fits up to the column that it is given, which is the last one of the selection here.
 void CTableEditor::BestFitCols() {
     int left, right = -1;
     long top, bottom;
+    SelectCurrentIfNothing();
     if (GetCurrentSelection(&left, &top, &right, &bottom) == GRID_SUCCESS)
         OnTH_DClicked(right);
 }
@@ -108,7 +116,7 @@ int CTableEditor::OnCanMove(int oldCol, long oldRow, int newCol, long newRow) {
 }
 
 void CTableEditor::OnRClicked(int col, long row, int updn, RECT *rect, POINT *point, int processed) {
-    const bool inSelection = col >= 0 && IsSelected(col, row) && (IsInMultipleSelection() || m_nHeadingSelectMode != 0);
+    const bool inSelection = col >= 0 && IsSelected(col, row) && IsInMultipleSelection();
     if (updn != 0) {
         if (col >= 0 && !inSelection) {
             // Outside it is a click as with the left button: a selection by headings ends.
@@ -149,6 +157,12 @@ void CTableEditor::OnCB_RClicked(int updn) {
         ShowMenu(Menu::Columns, PointerPosition());
 }
 
+void CTableEditor::OnKeyDown(UINT *key, int processed) {
+    if (*key == VK_DELETE)
+        SelectCurrentIfNothing();
+    CEditorCore::OnKeyDown(key, processed);
+}
+
 void CTableEditor::OnKeyUp(UINT *key, int processed) {
     if (*key == VK_APPS)
         ShowMenuByKey();
@@ -181,6 +195,8 @@ void CTableEditor::ShowMenu(Menu menu, CPoint screen) {
     CMenu menus;
     if (!menus.LoadMenu(IDR_CONTEXT))
         return;
+    // While the menu is up nothing is idle: the status bar tells of what the click selected before.
+    AfxGetMainWnd()->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE);
     if (CMenu *popup = menus.GetSubMenu(static_cast<int>(menu)))
         popup->TrackPopupMenu(TPM_LEFTALIGN | TPM_RIGHTBUTTON, screen.x, screen.y, AfxGetMainWnd());
 }

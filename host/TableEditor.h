@@ -8,6 +8,9 @@ class CTableEditor : public CEditorCore {
 public:
     // The whole table, or the text of the open edit box. The current cell stays where it is.
     void SelectAll();
+    // The commands on cells work on the selection, and some of them and the edit box leave none: then it is the
+    // current cell's again.
+    void SelectCurrentIfNothing();
     // The selected columns after what they hold.
     void BestFitCols();
     // Every field, in the file's order.
@@ -23,6 +26,7 @@ public:
     void OnTH_RClicked(int col, int updn) override;
     void OnSH_RClicked(long row, int updn) override;
     void OnCB_RClicked(int updn) override;
+    void OnKeyDown(UINT *key, int processed) override;
     void OnKeyUp(UINT *key, int processed) override;
 
 protected:
