@@ -168,8 +168,10 @@ CUGCell CellOf(const Sample &sample) {
         cell.SetTextColor(sample.colour);
     if (sample.back != kNone)
         cell.SetBackColor(sample.back);
-    if (sample.type == kCheckBoxTypeId)
-        cell.SetNumberDecimals(0);
+    if (sample.type == kCheckBoxTypeId) {
+        cell.SetNumberDecimals(0); // kept with a number only
+        cell.SetNumber(cell.GetNumber());
+    }
     return cell;
 }
 

@@ -170,6 +170,14 @@ class Host:
         finally:
             self.xdotool("sleep", "0.03", "mouseup", "1")
 
+    def resize(self, width, height):
+        """Drags the frame's lower right corner."""
+        frame = next(window for window in self.look() if window["text"].startswith(FRAME))
+        left, top, right, bottom = frame["rect"]
+        self.drag([(right - 2, bottom - 2), (right - 20, bottom - 20), (left + width - 2, top + height - 2)])
+        wait_for("the new size", lambda: [window for window in self.look() if window["text"].startswith(FRAME) and
+                                          window["rect"][2:] == [left + width, top + height]])
+
     # --- The clipboard, as another program sees it
 
     def set_clipboard(self, text):
