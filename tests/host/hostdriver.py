@@ -38,8 +38,8 @@ class Probe:
         self.process = subprocess.Popen(["/usr/lib/wine/wine64", program], env=env, text=True, bufsize=1,
                                         stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
 
-    def look(self):
-        self.process.stdin.write("look\n")
+    def look(self, at="windows"):
+        self.process.stdin.write(at + "\n")
         self.process.stdin.flush()
         return json.loads(self.process.stdout.readline())
 
@@ -106,10 +106,10 @@ class Host:
 
     # --- What the windows show
 
-    def look(self):
+    def look(self, at="windows"):
         if self.probe is None:
             self.probe = Probe(self.probe_program, self.env)
-        return self.probe.look()
+        return self.probe.look(at)
 
     def find(self, **wanted):
         """The first visible window with these properties (class as `kind`), or None."""
@@ -181,7 +181,12 @@ class Host:
     # --- The clipboard, as another program sees it
 
     def set_clipboard(self, text):
-        subprocess.run(["xclip", "-selection", "clipboard"], env=self.env, input=text.encode(), check=True)
+        subprocess.run(["xclip", "-selection", "clipboard"], env=self.env, input=text.encode(), check=True,
+                       stdout=subprocess.DEVNULL)
+        # The session learns of another program's text some moments later.
+        wanted = text.replace("\r\n", "\n")
+        wait_for("the text on the session's clipboard",
+                 lambda: self.look("clipboard").replace("\r\n", "\n") == wanted)
 
     def clipboard(self):
         return subprocess.run(["xclip", "-selection", "clipboard", "-o", "-target", "UTF8_STRING"], env=self.env,

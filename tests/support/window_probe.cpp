@@ -1,5 +1,6 @@
-// Tells what the windows of the sample host show, for tests that drive it from outside: for each line read, one line
-// of JSON with every visible window of the host's process and the window that has its keyboard focus. It only looks.
+// Tells what the windows of the sample host show, for tests that drive it from outside. It only looks. For each line
+// read it writes one line of JSON: for "clipboard" the clipboard's text as programs of this session get it, for
+// anything else every visible window of the host's process, and which of them has the keyboard focus.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -147,12 +148,27 @@ std::string LookAtHost() {
     return List(look.windows);
 }
 
+std::string ClipboardText() {
+    std::string json = "\"\"";
+    if (!::OpenClipboard(nullptr))
+        return json;
+    if (const HANDLE data = ::GetClipboardData(CF_UNICODETEXT)) {
+        if (const auto *text = static_cast<const wchar_t *>(::GlobalLock(data))) {
+            json = Quoted(text);
+            ::GlobalUnlock(data);
+        }
+    }
+    ::CloseClipboard();
+    return json;
+}
+
 } // namespace
 
 int main() {
     char line[16];
     while (std::fgets(line, sizeof line, stdin) != nullptr) {
-        std::puts(LookAtHost().c_str());
+        const bool clipboard = std::string(line).rfind("clipboard", 0) == 0;
+        std::puts((clipboard ? ClipboardText() : LookAtHost()).c_str());
         std::fflush(stdout);
     }
     return 0;
