@@ -106,7 +106,10 @@ int CUGDropListType::OpenList() {
     for (POSITION at = items.GetHeadPosition(); at != nullptr;)
         m_list.AddString(items.GetNext(at));
     m_list.MoveWindow(CRect(ListRect(col, row, m_list.GetItemHeight(0), m_list.GetCount())));
-    m_list.SelectString(-1, m_GI->m_currentCell.GetText());
+    // The snapshot may be older than the choice made last.
+    CUGCell cell;
+    m_ctrl->GetCell(col, row, &cell);
+    m_list.SetCurSel(m_list.FindStringExact(-1, cell.GetText()));
     m_list.m_open = true;
     ::SetWindowPos(m_list.m_hWnd, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
     m_list.SetFocus();

@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 
-#include "editorcore/EditorCore.h"
+#include "host/TableEditor.h"
 
 class CChildFrame : public CMDIChildWnd {
     DECLARE_DYNAMIC(CChildFrame)
@@ -14,9 +14,10 @@ public:
     // maximised.
     void RefreshTitle();
     void FocusTable() { m_editor.SetFocus(); }
-    CEditorCore &Editor() { return m_editor; }
+    CTableEditor &Editor() { return m_editor; }
 
 protected:
+    BOOL PreTranslateMessage(MSG *message) override;
     DECLARE_MESSAGE_MAP()
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnSize(UINT type, int cx, int cy);
@@ -29,22 +30,42 @@ protected:
     afx_msg void OnFileInformation();
     afx_msg void OnEditUndo();
     afx_msg void OnEditRedo();
+    afx_msg void OnEditCut();
+    afx_msg void OnEditCopy();
+    afx_msg void OnEditPaste();
     afx_msg void OnEditBlank();
+    afx_msg void OnEditSelectAll();
     afx_msg void OnRecordAppend();
+    afx_msg void OnRecordInsert();
+    afx_msg void OnRecordDelete();
+    afx_msg void OnColumnsHide();
+    afx_msg void OnColumnsShow();
+    afx_msg void OnColumnsOrder();
+    afx_msg void OnColumnsFit();
+    afx_msg void OnColumnsReset();
     afx_msg void OnEnterIsTab();
     afx_msg void OnMode(UINT id);
     afx_msg void OnUpdateSave(CCmdUI *command);
     afx_msg void OnUpdateUndo(CCmdUI *command);
     afx_msg void OnUpdateRedo(CCmdUI *command);
+    afx_msg void OnUpdateCut(CCmdUI *command);
+    afx_msg void OnUpdateCopy(CCmdUI *command);
+    afx_msg void OnUpdatePaste(CCmdUI *command);
+    afx_msg void OnUpdateBlank(CCmdUI *command);
     afx_msg void OnUpdateChange(CCmdUI *command);
+    afx_msg void OnUpdateDelete(CCmdUI *command);
+    afx_msg void OnUpdateColumns(CCmdUI *command);
+    afx_msg void OnUpdateFields(CCmdUI *command);
+    afx_msg void OnUpdateReset(CCmdUI *command);
     afx_msg void OnUpdateEnterIsTab(CCmdUI *command);
     afx_msg void OnUpdateMode(CCmdUI *command);
     afx_msg void OnUpdateRecordPane(CCmdUI *command);
     afx_msg void OnUpdateFieldPane(CCmdUI *command);
+    afx_msg void OnUpdateSelectionPane(CCmdUI *command);
     afx_msg void OnUpdateModePane(CCmdUI *command);
     afx_msg void OnUpdateModifiedPane(CCmdUI *command);
 
 private:
-    CEditorCore m_editor;
+    CTableEditor m_editor;
     bool m_sourceWritable = true;
 };

@@ -5,9 +5,12 @@
 IMPLEMENT_DYNAMIC(CGalleryFrame, CMDIChildWnd)
 
 BEGIN_MESSAGE_MAP(CGalleryFrame, CMDIChildWnd)
-ON_WM_CREATE()
-ON_WM_SIZE()
-ON_WM_SETFOCUS()
+    ON_WM_CREATE()
+    ON_WM_SIZE()
+    ON_WM_SETFOCUS()
+    ON_COMMAND(ID_EDIT_COPY, OnEditCopy)
+    ON_UPDATE_COMMAND_UI(ID_PANE_RECORD, OnUpdateCellPane)
+    ON_UPDATE_COMMAND_UI(ID_PANE_FIELD, OnUpdateTextPane)
 END_MESSAGE_MAP()
 
 void CGalleryFrame::Open(CWnd *frame) {
@@ -43,4 +46,18 @@ void CGalleryFrame::OnSize(UINT type, int cx, int cy) {
 
 void CGalleryFrame::OnSetFocus(CWnd *) {
     m_grid.SetFocus();
+}
+
+void CGalleryFrame::OnEditCopy() {
+    m_grid.CopyCurrentText();
+}
+
+void CGalleryFrame::OnUpdateCellPane(CCmdUI *command) {
+    command->Enable();
+    command->SetText(m_grid.DescribeCurrentCell());
+}
+
+void CGalleryFrame::OnUpdateTextPane(CCmdUI *command) {
+    command->Enable();
+    command->SetText("Text: " + m_grid.CurrentText().SpanExcluding("\n"));
 }

@@ -17,6 +17,9 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnSetFocus(CWnd *old);
+    afx_msg void OnEditCopy();
+    afx_msg void OnUpdateCellPane(CCmdUI *command);
+    afx_msg void OnUpdateTextPane(CCmdUI *command);
 
 private:
     CGalleryGrid m_grid;

@@ -1,5 +1,6 @@
 #include "host/GalleryGrid.h"
 
+#include <cstring>
 #include <iterator>
 
 IMPLEMENT_DYNAMIC(CGalleryGrid, CUGCtrl)
@@ -144,6 +145,8 @@ const Row kRows[] = {
 
 constexpr long kBorderRow = 6, kBitmapRow = 8, kJoinRow = 17;
 
+enum MenuItem { kCopyText = 1000, kBlankCell }; // items of the popup menu reach the program from 1000 on
+
 enum Tab { kFrameTab = 1, kCellTab, kRowTab };
 
 CUGCell CellOf(const Sample &sample) {
@@ -165,8 +168,10 @@ CUGCell CellOf(const Sample &sample) {
         cell.SetTextColor(sample.colour);
     if (sample.back != kNone)
         cell.SetBackColor(sample.back);
-    if (sample.type == kCheckBoxTypeId)
-        cell.SetNumberDecimals(0);
+    if (sample.type == kCheckBoxTypeId) {
+        cell.SetNumberDecimals(0); // kept with a number only
+        cell.SetNumber(cell.GetNumber());
+    }
     return cell;
 }
 
@@ -190,6 +195,11 @@ void CGalleryGrid::OnSetup() {
     AddTab("Highlighted Cell", kCellTab);
     AddTab("Highlighted Row", kRowTab);
     SetTabWidth(ScaledPx(290));
+    GetPopupMenu()->AppendMenu(MF_STRING, kCopyText, "&Copy Text");
+    GetPopupMenu()->AppendMenu(MF_STRING, kBlankCell, "&Blank Cell");
+    EnablePopupMenu(1);
+    EnableScrollHints(1, 0);
+    m_ready = true;
 }
 
 void CGalleryGrid::MakeDrawingObjects() {
@@ -296,6 +306,97 @@ void CGalleryGrid::OnTabSelected(long id) {
     EnableRowHighlight(id == kRowTab);
     SetCurrentCellStyle(id == kCellTab ? 2 : 1);
     RedrawAll();
+    Tell(id == kRowTab ? "Tab: Highlighted Row" : id == kCellTab ? "Tab: Highlighted Cell" : "Tab: Frame");
+}
+
+// --- What the program is told, shown to whoever tries the cells
+
+void CGalleryGrid::Tell(const CString &event) {
+    if (auto *frame = DYNAMIC_DOWNCAST(CFrameWnd, AfxGetMainWnd()))
+        frame->SetMessageText(event);
+}
+
+CString CGalleryGrid::Describe(int col, long row) const {
+    CString text;
+    if (row >= 0 && row < static_cast<long>(std::size(kRows)) && col < kSamples)
+        text.Format("%s, Sample %d", kRows[row].name, col + 1);
+    return text;
+}
+
+CString CGalleryGrid::DescribeCurrentCell() const {
+    return Describe(GetCurrentCol(), GetCurrentRow());
+}
+
+CString CGalleryGrid::CurrentText() {
+    CUGCell cell;
+    GetCell(GetCurrentCol(), GetCurrentRow(), &cell);
+    return cell.GetText();
+}
+
+int CGalleryGrid::OnSetCell(int col, long row, CUGCell *cell) {
+    if (m_ready && row >= 0)
+        Tell(Describe(col, row) + " holds \"" + cell->GetText() + "\"");
+    return 1;
+}
+
+void CGalleryGrid::OnColSized(int col, int *width) {
+    CString text;
+    text.Format("Column %d is %d pixels wide", col + 1, *width);
+    if (col >= 0)
+        Tell(text);
+}
+
+void CGalleryGrid::OnRowSized(long row, int *height) {
+    CString text;
+    text.Format("Row %ld is %d pixels high", row + 1, *height);
+    Tell(text);
+}
+
+void CGalleryGrid::OnTopRowChange(long, long newRow) {
+    if (newRow >= 0 && newRow < static_cast<long>(std::size(kRows)))
+        Tell(CString("At the top: ") + kRows[newRow].name);
+}
+
+int CGalleryGrid::OnVScrollHint(long row, int, CUGHint *hint) {
+    if (row >= 0 && row < static_cast<long>(std::size(kRows)))
+        hint->SetText(kRows[row].name);
+    return 1;
+}
+
+int CGalleryGrid::OnMenuStart(int col, long row, int section) {
+    return section == UG_SECTION_GRID && col >= 0 && row >= 0;
+}
+
+void CGalleryGrid::OnMenuCommand(int col, long row, int, int item) {
+    CUGCell cell;
+    GetCell(col, row, &cell);
+    if (item == kCopyText) {
+        CopyCurrentText();
+    } else if (cell.GetReadOnly() != 1) {
+        QuickSetText(col, row, "");
+        RedrawCell(col, row);
+    }
+}
+
+void CGalleryGrid::CopyCurrentText() {
+    if (CEdit *edit = GetEditControl()) {
+        edit->Copy();
+        return;
+    }
+    const CString text = CurrentText();
+    const size_t bytes = static_cast<size_t>(text.GetLength()) + 1;
+    const HGLOBAL memory = ::GlobalAlloc(GHND, bytes);
+    if (memory == nullptr || !::OpenClipboard(m_hWnd)) {
+        ::GlobalFree(memory);
+        return;
+    }
+    std::memcpy(::GlobalLock(memory), static_cast<const char *>(text), bytes);
+    ::GlobalUnlock(memory);
+    ::EmptyClipboard();
+    if (::SetClipboardData(CF_TEXT, memory) == nullptr)
+        ::GlobalFree(memory);
+    ::CloseClipboard();
+    Tell("\"" + text + "\" copied");
 }
 
 DROPEFFECT CGalleryGrid::OnDragEnter(COleDataObject *data) {

@@ -41,6 +41,12 @@ BOOL CHostApp::InitInstance() {
     return TRUE;
 }
 
+// With nothing left to do nothing is waited for.
+BOOL CHostApp::OnIdle(LONG count) {
+    m_service.EndWaitCursor();
+    return CWinApp::OnIdle(count);
+}
+
 // The one argument, with the quotes of a path that holds blanks taken off, as a full path.
 CString CHostApp::CommandLineFile() const {
     CString argument(m_lpCmdLine);

@@ -9,6 +9,7 @@ class CHostApp : public CWinApp {
 public:
     CHostApp();
     BOOL InitInstance() override;
+    BOOL OnIdle(LONG count) override;
     BOOL OpenRecentFile(LPCTSTR path) override;
 
     CHostService &Service() { return m_service; }

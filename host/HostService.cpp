@@ -9,11 +9,20 @@
 #include "host/MainFrame.h"
 #include "host/sources/DbfDataSource.h"
 
+#include <algorithm>
+
 namespace {
 
 const char *const kLookupSection = "Lookup";
 constexpr UINT kCodeWidth = 5; // characters
 constexpr UINT kDescriptionWidth = 15;
+
+// The editor whose commands the menus serve; null when no table's window is in front.
+CTableEditor *ActiveEditor() {
+    auto *frame = DYNAMIC_DOWNCAST(CMainFrame, AfxGetMainWnd());
+    auto *child = frame != nullptr ? DYNAMIC_DOWNCAST(CChildFrame, frame->MDIGetActive()) : nullptr;
+    return child != nullptr ? &child->Editor() : nullptr;
+}
 
 } // namespace
 
@@ -91,12 +100,27 @@ bool CHostService::PromptSaveAs(CString &name, bool *useFiltered, bool filterAtt
     return true;
 }
 
+// The dialogs about fields begin at the current one.
 bool CHostService::PromptFieldOrder(CStringArray *names) {
-    return CFieldOrderDlg(names, AfxGetMainWnd()).DoModal() == IDOK;
+    CTableEditor *editor = ActiveEditor();
+    const int current = editor != nullptr ? editor->GetCurrentCol() : 0;
+    return CFieldOrderDlg(names, current, AfxGetMainWnd()).DoModal() == IDOK;
 }
 
 void CHostService::PromptFieldVisibility(CStringArray &names, CArray<bool, bool> &shown) {
-    CFieldVisibilityDlg(names, shown, AfxGetMainWnd()).DoModal();
+    CTableEditor *editor = ActiveEditor();
+    if (editor == nullptr)
+        return;
+    CUIntArray positions;
+    editor->GetVirtualColPostions(positions);
+    const int field = editor->GetDataSrcField(editor->GetCurrentCol());
+    int current = 0;
+    for (int i = 0; i < positions.GetSize(); ++i) {
+        if (static_cast<int>(positions.GetAt(i)) == field)
+            current = i;
+    }
+    if (CFieldVisibilityDlg(names, shown, current, AfxGetMainWnd()).DoModal() == IDOK)
+        editor->ShowChosenFields(shown);
 }
 
 bool CHostService::PromptXParms(CStringArray &, CStringArray &, CArray<bool, bool> &, CString, const char *,
@@ -154,7 +178,13 @@ bool CHostService::SelectFilter(int *) {
 }
 
 void CHostService::DoWaitCursor(int step) {
+    m_waits = std::max(m_waits + step, 0);
     AfxGetApp()->DoWaitCursor(step);
+}
+
+void CHostService::EndWaitCursor() {
+    while (m_waits > 0)
+        DoWaitCursor(-1);
 }
 
 void CHostService::ShowMessage(const char *text) {

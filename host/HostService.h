@@ -11,6 +11,8 @@ class CDbfDataSource;
 class CHostService final : public CVAppInterface {
 public:
     CHostOptions &Options() { return m_options; }
+    // Takes back the wait cursor that a failed operation of the library left raised.
+    void EndWaitCursor();
 
     void SetEditorTitle(const char *path, const char *table, CEditorCore *editor) override;
     void OnGridHotKey() override;
@@ -51,4 +53,5 @@ private:
     static bool MayOverwrite(const std::string &path);
 
     CHostOptions m_options;
+    int m_waits = 0; // wait cursors that the library has raised
 };

@@ -3,6 +3,7 @@
 #include "grid/UGDefine.h"
 
 #include <algorithm>
+#include <utility>
 #include <cctype>
 #include <limits>
 #include <new>
@@ -276,10 +277,26 @@ int CDbfDataSource::SetCell(int col, long row, CUGCell *cell) {
     if (col < 0 || row < 0) {
         return GRID_ERROR;
     }
-    return Carry([=](dbf::Table &table) {
-        return table.setCellText(static_cast<dbf::Table::Row>(row), static_cast<std::size_t>(col),
-                                 cell->GetText());
+    if (!m_table) {
+        return GRID_ERROR;
+    }
+    return Guarded([&]() -> int {
+        const dbf::Result result = m_table->setCellText(static_cast<dbf::Table::Row>(row),
+                                                        static_cast<std::size_t>(col), cell->GetText());
+        if (!result) {
+            RefuseValue(result.message);
+        }
+        return result ? GRID_SUCCESS : GRID_ERROR;
     });
+}
+
+// A paste of many values can have as many refused: one message for all of them is enough.
+void CDbfDataSource::RefuseValue(const std::string &why) {
+    if (!m_inTransaction) {
+        Tell(why);
+    } else if (++m_refused == 1) {
+        m_refusal = why;
+    }
 }
 
 int CDbfDataSource::FindFrom(dbf::Table::Row row, int col, const char *text, long *found) {
@@ -320,12 +337,24 @@ int CDbfDataSource::GetOption(int option, void *value1, void *) {
 void CDbfDataSource::StartTransaction() {
     if (m_table) {
         m_table->beginTransaction();
+        m_inTransaction = true;
+        m_refused = 0;
     }
 }
 
 void CDbfDataSource::EndTransaction() {
     if (m_table) {
         m_table->endTransaction();
+    }
+    m_inTransaction = false;
+    const long refused = std::exchange(m_refused, 0);
+    if (refused == 1) {
+        Tell(m_refusal);
+    } else if (refused > 1) {
+        Guarded([&]() -> int {
+            Tell(m_refusal + "\n\n" + std::to_string(refused) + " values were left out.");
+            return GRID_SUCCESS;
+        });
     }
 }
 

@@ -77,6 +77,7 @@ public:
     // UGSRC_PATH: value1 points to a pointer to a CString, which receives the path. UGSRC_WRITABLE: see CUGDataSource.
     int GetOption(int option, void *value1, void *value2) override;
 
+    // Values that are refused in between are told of once, at the end.
     void StartTransaction() override;
     void EndTransaction() override;
     void Undo() override;
@@ -92,9 +93,13 @@ private:
     int FindFrom(dbf::Table::Row row, int col, const char *text, long *found);
     void Tell(const std::string &message) const;
     void TellWarnings() const;
+    void RefuseValue(const std::string &why);
 
     Hooks m_hooks;
     std::unique_ptr<dbf::Table> m_table;
+    bool m_inTransaction = false;
+    long m_refused = 0;     // values refused in the transaction,
+    std::string m_refusal;  // and why the first of them was
     dbf::Table::Row m_findNext = 0; // where FindNext goes on
     const std::string m_lowMemory = "Low memory - cannot carry out operation!";
 };

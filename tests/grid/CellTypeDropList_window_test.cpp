@@ -49,6 +49,23 @@ TEST_F(DropListTypeTest, PressingTheButtonOpensTheListWithTheLabelsLines) {
     EXPECT_TRUE(IsOpen());
 }
 
+TEST_F(DropListTypeTest, TheListOpensAtWhatTheCellHoldsNow) {
+    ClickButton();
+    Choose(2);
+    ::SendMessageA(m_grid.List(), WM_KEYDOWN, VK_RETURN, 0);
+    PumpAll();
+    ASSERT_FALSE(IsOpen());
+    ClickButton();
+    ASSERT_TRUE(IsOpen());
+    EXPECT_EQ(2, ::SendMessageA(m_grid.List(), LB_GETCURSEL, 0, 0));
+}
+
+TEST_F(DropListTypeTest, TheListOpensAtTheWholeTextNotAtOneThatBeginsWithIt) {
+    Put(1, 1, kDropListTypeId, "two", "twofold\ntwo\n");
+    ClickButton();
+    EXPECT_EQ(1, ::SendMessageA(m_grid.List(), LB_GETCURSEL, 0, 0));
+}
+
 TEST_F(DropListTypeTest, TextBehindTheLastLineFeedIsNoItem) {
     Put(1, 1, kDropListTypeId, "", "one\ntwo\nthree");
     ClickButton();

@@ -1,48 +1,13 @@
 #!/usr/bin/env python3
 """Sessions at the sample host: host_session.py HOST-PROGRAM WORK-FOLDER."""
-import csv
-import io
 import os
-import subprocess
-import sys
-import unittest
 
-sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
-import hostdriver  # noqa: E402
-from hostdriver import Host  # noqa: E402
-
-PROGRAM, WORK = sys.argv[1], sys.argv[2]
-READER = os.path.join(hostdriver.ROOT, "tests", "host", "sources", "read_dbf.py")
+import hostdriver
+import sessions
+from sessions import bytes_of, gdal_values, records
 
 
-def records(path):
-    """The fields and records as a reader of its own sees them, one list of texts a line."""
-    text = subprocess.run([sys.executable, READER, path, "cp1252"], capture_output=True, check=True).stdout
-    return [line.split("|") for line in text.decode().splitlines()]
-
-
-def gdal_values(path):
-    """The records as GDAL reads them, by field name."""
-    text = subprocess.run(["ogr2ogr", "-f", "CSV", "/vsistdout/", path], capture_output=True, check=True).stdout
-    return list(csv.DictReader(io.StringIO(text.decode("utf-8", "replace"))))
-
-
-def bytes_of(path):
-    with open(path, "rb") as file:
-        return file.read()
-
-
-class SessionTest(unittest.TestCase):
-    def setUp(self):
-        self.folder = os.path.join(WORK, self._testMethodName)
-
-    def open(self, *samples):
-        self.path = hostdriver.fresh_copy(self.folder, *samples)
-        host = Host(PROGRAM, self.path)
-        self.addCleanup(host.kill)
-        host.await_table(os.path.basename(self.path))
-        return host
-
+class EditingAndSaving(sessions.Session):
     def type_name_in_fourth_record(self, host):
         host.keys("Down", "Down", "Down", "Tab", "Tab")
         host.type("Wilhelmina")
@@ -152,8 +117,7 @@ class SessionTest(unittest.TestCase):
         path = os.path.join(self.folder, "damaged.dbf")
         with open(path, "wb") as file:
             file.write(b"this is no table")
-        host = Host(PROGRAM, path)
-        self.addCleanup(host.kill)
+        host = self.start(path)
         host.await_message()
         host.keys("Return")
         host.await_title(hostdriver.FRAME)
@@ -162,5 +126,4 @@ class SessionTest(unittest.TestCase):
         host.await_end()
 
 
-if __name__ == "__main__":
-    unittest.main(argv=sys.argv[:1], verbosity=2)
+sessions.run()

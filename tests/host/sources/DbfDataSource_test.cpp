@@ -51,6 +51,25 @@ protected:
 
 } // namespace
 
+TEST_F(DbfDataSource, ValuesRefusedInATransactionAreToldOnceAtItsEnd) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    source.StartTransaction();
+    EXPECT_NE(set(1, 0, "much"), 0);
+    EXPECT_NE(set(1, 1, "more"), 0);
+    EXPECT_EQ(told, "");
+    source.EndTransaction();
+    const std::string first = told.substr(0, told.find('\n'));
+    EXPECT_EQ(told, first + "\n\n2 values were left out.|");
+    told.clear();
+    EXPECT_NE(set(1, 0, "much"), 0);
+    EXPECT_EQ(told, first + "|") << "outside a transaction each is told at once";
+    told.clear();
+    source.StartTransaction();
+    EXPECT_NE(set(1, 0, "much"), 0);
+    source.EndTransaction();
+    EXPECT_EQ(told, first + "|");
+}
+
 TEST_F(DbfDataSource, AnswersNothingBeforeItIsOpen) {
     CUGCell value;
     CString name;
