@@ -86,7 +86,10 @@ void CUGGrid::DrawCell(Pass &pass, int col, long row, RECT rect) {
     if (small)
         ::IntersectClipRect(pass.dc->GetSafeHdc(), rect.left, rect.top, rect.right, rect.bottom);
     type->DrawBorder(pass.dc, &rect, &m_cell);
+    m_GI->m_paintCol = col;
+    m_GI->m_paintRow = row;
     type->OnDraw(pass.dc, &rect, &m_cell, selected, current);
+    m_GI->m_paintCol = -1;
     if (small)
         ::RestoreDC(pass.dc->GetSafeHdc(), saved);
 }
