@@ -320,6 +320,13 @@ TEST_F(EllipsisTypeTest, TheButtonStaysPressedWhileTheReceiverIsAtWork) {
     EXPECT_FALSE(LooksPressed(1));
 }
 
+TEST(ButtonTypeTest, TheButtonIsAsWideAsAScrollBarAndNoWiderThanItsCell) {
+    const int width = ::GetSystemMetrics(SM_CXVSCROLL);
+    EXPECT_EQ(width, CUGButtonType::ButtonWidth());
+    EXPECT_EQ(CRect(150 - width, 20, 150, 40), CRect(CUGButtonType::ButtonRect(CRect(50, 20, 150, 40))));
+    EXPECT_EQ(CRect(50, 20, 55, 40), CRect(CUGButtonType::ButtonRect(CRect(50, 20, 55, 40))));
+}
+
 // With whole-row highlight all cells of the row are drawn as current ones.
 class ButtonsInARowTest : public CellTypesTest {
 protected:
