@@ -134,4 +134,25 @@ TEST_F(CtrlGeometryTest, AnOriginBehindTheCellOrOutsideTheTableIsNone) {
     EXPECT_FALSE(m_grid.GetJoinOrigin(CUGCell(), 2, 3, &left, &top));
 }
 
+// As where the origin is read from another source than the rest of its block.
+TEST_F(CtrlGeometryTest, AJoinWhoseOriginKnowsOfNoBlockIsACellAlone) {
+    constexpr COLORREF kRed = RGB(255, 0, 0);
+    m_grid.SetNumberCols(4);
+    m_grid.SetNumberRows(6);
+    CUGCell cell;
+    cell.SetJoin(false, 1, 2);
+    cell.SetBackColor(kRed);
+    for (long row = 2; row <= 4; ++row)
+        m_grid.SetCell(2, row, &cell);
+    EXPECT_EQ("200,60..300,80", RectOf(2, 3));
+    EXPECT_EQ("0:2,3 200,60..300,80", At(250, 65));
+    m_grid.GotoCell(2, 3);
+    EXPECT_EQ("cur=(2,3) view=(0,0) size=4x6", m_grid.State());
+    m_grid.Update();
+    CDC *dc = m_grid.GetGridDC();
+    for (long row = 2; row <= 4; ++row)
+        EXPECT_EQ(kRed, ::GetPixel(dc->GetSafeHdc(), 250, static_cast<int>(row) * 20 + 10)) << row;
+    m_grid.ReleaseGridDC(dc);
+}
+
 } // namespace
