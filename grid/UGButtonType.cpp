@@ -2,6 +2,7 @@
 
 #include "grid/UGCtrl.h"
 
+#include <algorithm>
 #include <utility>
 
 int CUGButtonType::ButtonWidth() {
@@ -38,6 +39,10 @@ void CUGButtonType::ForgetCell() {
     const long row = std::exchange(m_btnRow, -1);
     if (std::exchange(m_pressed, false))
         m_ctrl->RedrawCell(col, row);
+}
+
+bool CUGButtonType::LooksPressed(int current) const {
+    return m_pressed && current && (m_GI->m_paintCol < 0 || IsPressedCell(m_GI->m_paintCol, m_GI->m_paintRow));
 }
 
 void CUGButtonType::DrawTextBeside(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current) {

@@ -19,6 +19,9 @@ protected:
     void PressCell(int col, long row, const RECT &cell);
     void ForgetCell();
     bool IsPressedCell(int col, long row) const { return m_btnCol == col && m_btnRow == row; }
+    // How the button of the cell that is being painted looks. With whole-row highlight every cell of the row
+    // counts as current, but only the one that was pressed has its button down.
+    bool LooksPressed(int current) const;
     // Draws the cell without the button, then the button's face, raised or pressed.
     void DrawTextBeside(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current);
     static void DrawFace(CDC *dc, const RECT &button, bool pressed);

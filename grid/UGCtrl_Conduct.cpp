@@ -137,6 +137,10 @@ void CUGCtrl::RedrawCol(int col) {
     const RECT heading = {left, 0, right, m_GI.m_topHeadingHeight};
     m_grid.InvalidateRect(&cells, FALSE);
     m_topHdg.InvalidateRect(&heading, FALSE);
+    if (col < m_GI.m_lockedCols) {
+        m_sideHdg.Invalidate(FALSE);
+        m_cornerBtn.Invalidate(FALSE);
+    }
 }
 
 void CUGCtrl::Update() {

@@ -13,7 +13,8 @@ bool CUGCtrl::GetJoinOrigin(const CUGCell &cell, int col, long row, int *originC
     return true;
 }
 
-// The block reaches as far as its neighbours to the right and below name the same origin.
+// The block reaches as far as its neighbours to the right and below name the same origin. A cell that names an
+// origin which knows of no block, or whose block does not reach it, stands alone: nothing else would paint it.
 void CUGCtrl::GetJoinRange(int col, long row, int *startCol, long *startRow, int *endCol, long *endRow) {
     CUGCell cell;
     GetCell(col, row, &cell);
@@ -21,16 +22,21 @@ void CUGCtrl::GetJoinRange(int col, long row, int *startCol, long *startRow, int
     *startRow = *endRow = row;
     if (!GetJoinOrigin(cell, col, row, startCol, startRow))
         return;
-    *endCol = *startCol;
-    *endRow = *startRow;
+    const int left = *endCol = *startCol;
+    const long top = *endRow = *startRow;
     const auto belongs = [&](int c, long r) {
-        return GetCell(c, r, &cell) != GRID_ERROR && cell.IsJoined() && cell.GetJoinOriginCol() == *startCol &&
-               cell.GetJoinOriginRow() == *startRow;
+        return GetCell(c, r, &cell) != GRID_ERROR && cell.IsJoined() && cell.GetJoinOriginCol() == left &&
+               cell.GetJoinOriginRow() == top;
     };
-    while (*endCol + 1 < m_GI.m_cols.m_count && belongs(*endCol + 1, *startRow))
+    const bool begins = belongs(left, top);
+    while (begins && *endCol + 1 < m_GI.m_cols.m_count && belongs(*endCol + 1, top))
         ++*endCol;
-    while (*endRow + 1 < m_GI.m_rows.m_count && belongs(*startCol, *endRow + 1))
+    while (begins && *endRow + 1 < m_GI.m_rows.m_count && belongs(left, *endRow + 1))
         ++*endRow;
+    if (col > *endCol || row > *endRow) {
+        *startCol = *endCol = col;
+        *startRow = *endRow = row;
+    }
 }
 
 int CUGCtrl::GetCellRect(int col, long row, RECT *rect) {
@@ -57,9 +63,9 @@ int CUGCtrl::GetCellFromPoint(int x, int y, int *col, long *row, RECT *rect) {
         return GRID_ERROR;
     *col = static_cast<int>(foundCol);
     *row = foundRow;
-    CUGCell cell;
-    GetCell(*col, *row, &cell);
-    GetJoinOrigin(cell, *col, *row, col, row);
+    int endCol;
+    long endRow;
+    GetJoinRange(static_cast<int>(foundCol), foundRow, col, row, &endCol, &endRow);
     if (rect != nullptr)
         GetCellRect(*col, *row, rect);
     return GRID_SUCCESS;

@@ -62,10 +62,10 @@ int CUGCtrl::GotoCell(int col, long row) {
         return GRID_ERROR;
     if (col == GetCurrentCol() && row == GetCurrentRow())
         return GRID_SUCCESS;
-    CUGCell cell;
-    GetCell(col, row, &cell);
-    GetJoinOrigin(cell, col, row, &col, &row);
-    return MoveTo(col, row);
+    int startCol, endCol;
+    long startRow, endRow;
+    GetJoinRange(col, row, &startCol, &startRow, &endCol, &endRow);
+    return MoveTo(startCol, startRow);
 }
 
 // Where a step lands that begins inside a joined block: behind the block, not on its hidden part.

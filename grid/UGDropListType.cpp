@@ -122,5 +122,5 @@ void CUGDropListType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, i
         return;
     }
     DrawTextBeside(dc, rect, cell, selected, current);
-    DrawControl(dc, ButtonRect(*rect), DFC_SCROLL, DFCS_SCROLLCOMBOBOX | (m_pressed && current ? DFCS_PUSHED : 0));
+    DrawControl(dc, ButtonRect(*rect), DFC_SCROLL, DFCS_SCROLLCOMBOBOX | (LooksPressed(current) ? DFCS_PUSHED : 0));
 }

@@ -66,6 +66,7 @@ int CUGEdit::Finish() {
     m_ctrl->GetCellRaw(col, row, &cell);
     cell.SetText(text);
     m_ctrl->SetCell(col, row, &cell);
+    m_ctrl->RedrawCell(col, row); // what the box does not cover, and where else a locked column shows
     return 1;
 }
 

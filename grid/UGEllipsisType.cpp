@@ -54,7 +54,7 @@ int CUGEllipsisType::OnMouseMove(POINT *point, UINT flags) {
 void CUGEllipsisType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current) {
     DrawTextBeside(dc, rect, cell, selected, current);
     const RECT button = ButtonRect(*rect);
-    DrawFace(dc, button, m_pressed && current);
+    DrawFace(dc, button, LooksPressed(current));
     dc->FillSolidRect(button.left - 1, button.top, 1, button.bottom - button.top, ::GetSysColor(COLOR_BTNSHADOW));
     const int width = static_cast<int>(button.right - button.left);
     const int height = static_cast<int>(button.bottom - button.top);

@@ -55,6 +55,8 @@ public:
     int m_vScrollMode = 0; // 0 to 2
     int m_hScrollMode = 0; // 0 to 1
     long m_editRow = 0;
+    int m_paintCol = -1; // the cell that the cell area has a type draw, -1 while it has none do so
+    long m_paintRow = -1;
     int m_editCol = 0;
     int m_colTranslationEnabled = 1;
     int m_ballisticMode = 0; // 0 to 3

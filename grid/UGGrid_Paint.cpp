@@ -63,8 +63,11 @@ void CUGGrid::DrawRow(Pass &pass, long row, int top, int bottom) {
 void CUGGrid::DrawCell(Pass &pass, int col, long row, RECT rect) {
     m_cell.ClearAll();
     m_ctrl->GetCell(col, row, &m_cell);
-    std::pair<int, long> origin;
-    if (m_ctrl->GetJoinOrigin(m_cell, col, row, &origin.first, &origin.second)) {
+    std::pair<int, long> origin(col, row);
+    if (m_cell.IsJoined()) {
+        int endCol;
+        long endRow;
+        m_ctrl->GetJoinRange(col, row, &origin.first, &origin.second, &endCol, &endRow);
         if (std::find(pass.joinsDrawn.begin(), pass.joinsDrawn.end(), origin) != pass.joinsDrawn.end())
             return;
         pass.joinsDrawn.push_back(origin);
@@ -86,7 +89,10 @@ void CUGGrid::DrawCell(Pass &pass, int col, long row, RECT rect) {
     if (small)
         ::IntersectClipRect(pass.dc->GetSafeHdc(), rect.left, rect.top, rect.right, rect.bottom);
     type->DrawBorder(pass.dc, &rect, &m_cell);
+    m_GI->m_paintCol = col;
+    m_GI->m_paintRow = row;
     type->OnDraw(pass.dc, &rect, &m_cell, selected, current);
+    m_GI->m_paintCol = -1;
     if (small)
         ::RestoreDC(pass.dc->GetSafeHdc(), saved);
 }

@@ -10,8 +10,6 @@ namespace {
 
 constexpr int kSpringMode = 2;    // the thumb returns to its middle
 constexpr int kSpringMiddle = 1;
-constexpr short kVHintAlignment = UG_ALIGN_RIGHT | UG_ALIGN_VCENTER;
-constexpr short kHHintAlignment = UG_ALIGN_HCENTER | UG_ALIGN_BOTTOM;
 constexpr int kHintMinimumPx = 80;
 
 } // namespace
@@ -52,6 +50,21 @@ void CUGScroll::Track(int position) {
         ShowHint(m_range.AxisPosition(position), m_range.Percent(position, Axis().m_maxLeading));
     if (IsLive())
         SetLeading(m_range.AxisPosition(position));
+}
+
+void CUGScroll::ShowHint(long index, int percent) {
+    CPoint pointer;
+    ::GetCursorPos(&pointer);
+    m_ctrl->ScreenToClient(&pointer);
+    CUGHint &hint = m_ctrl->m_hint;
+    hint.SetAlignment(HintAlignment());
+    if (!AskHint(index, percent, &hint))
+        return;
+    CRect client;
+    m_ctrl->GetClientRect(&client);
+    const CPoint at = HintPoint(client, pointer);
+    hint.MoveHint(at.x, at.y, kHintMinimumPx);
+    hint.Show();
 }
 
 void CUGScroll::HandleScroll(UINT code) {
@@ -100,17 +113,16 @@ bool CUGVScroll::WantsHint() const {
     return m_GI->m_vScrollHint != 0;
 }
 
-void CUGVScroll::ShowHint(long index, int percent) {
-    CPoint pointer;
-    ::GetCursorPos(&pointer);
-    m_ctrl->ScreenToClient(&pointer);
-    m_ctrl->m_hint.SetAlignment(kVHintAlignment);
-    if (!m_ctrl->OnVScrollHint(index, percent, &m_ctrl->m_hint))
-        return;
-    CRect client;
-    m_ctrl->GetClientRect(&client);
-    m_ctrl->m_hint.MoveHint(client.right - m_GI->m_vScrollWidth - 1, pointer.y, kHintMinimumPx);
-    m_ctrl->m_hint.Show();
+short CUGVScroll::HintAlignment() const {
+    return UG_ALIGN_RIGHT | UG_ALIGN_VCENTER;
+}
+
+int CUGVScroll::AskHint(long index, int percent, CUGHint *hint) {
+    return m_ctrl->OnVScrollHint(index, percent, hint);
+}
+
+CPoint CUGVScroll::HintPoint(const CRect &client, CPoint pointer) const {
+    return CPoint(client.right - m_GI->m_vScrollWidth - 1, pointer.y);
 }
 
 CUGAxis &CUGHScroll::Axis() const {
@@ -138,15 +150,14 @@ bool CUGHScroll::WantsHint() const {
     return m_GI->m_hScrollHint != 0;
 }
 
-void CUGHScroll::ShowHint(long index, int percent) {
-    CPoint pointer;
-    ::GetCursorPos(&pointer);
-    m_ctrl->ScreenToClient(&pointer);
-    m_ctrl->m_hint.SetAlignment(kHHintAlignment);
-    if (!m_ctrl->OnHScrollHint(static_cast<int>(index), percent, &m_ctrl->m_hint))
-        return;
-    CRect client;
-    m_ctrl->GetClientRect(&client);
-    m_ctrl->m_hint.MoveHint(pointer.x, client.bottom - m_GI->m_hScrollHeight - 1, kHintMinimumPx);
-    m_ctrl->m_hint.Show();
+short CUGHScroll::HintAlignment() const {
+    return UG_ALIGN_HCENTER | UG_ALIGN_BOTTOM;
+}
+
+int CUGHScroll::AskHint(long index, int percent, CUGHint *hint) {
+    return m_ctrl->OnHScrollHint(static_cast<int>(index), percent, hint);
+}
+
+CPoint CUGHScroll::HintPoint(const CRect &client, CPoint pointer) const {
+    return CPoint(pointer.x, client.bottom - m_GI->m_hScrollHeight - 1);
 }

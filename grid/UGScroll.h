@@ -7,6 +7,7 @@
 
 class CUGCtrl;
 class CUGGridInfo;
+class CUGHint;
 struct CUGAxis;
 
 class ORVANE_API CUGScroll : public CScrollBar {
@@ -28,12 +29,16 @@ protected:
     virtual int SetLeading(long index) = 0;
     virtual bool IsLive() const = 0;    // the view follows the thumb while it is dragged
     virtual bool WantsHint() const = 0; // a hint is shown meanwhile
-    virtual void ShowHint(long index, int percent) = 0;
+    virtual short HintAlignment() const = 0;
+    virtual int AskHint(long index, int percent, CUGHint *hint) = 0; // what the notification answers
+    // Where the hint hangs, in the control's client area: beside the bar, where the pointer is along it.
+    virtual CPoint HintPoint(const CRect &client, CPoint pointer) const = 0;
 
     UGScrollRange m_range;
 
 private:
     int TrackPosition();
+    void ShowHint(long index, int percent);
     void Track(int position);
 
     long m_lastMax = -1;
@@ -51,7 +56,9 @@ protected:
     int SetLeading(long index) override;
     bool IsLive() const override;
     bool WantsHint() const override;
-    void ShowHint(long index, int percent) override;
+    short HintAlignment() const override;
+    int AskHint(long index, int percent, CUGHint *hint) override;
+    CPoint HintPoint(const CRect &client, CPoint pointer) const override;
 };
 
 class ORVANE_API CUGHScroll : public CUGScroll {
@@ -64,5 +71,7 @@ protected:
     int SetLeading(long index) override;
     bool IsLive() const override;
     bool WantsHint() const override;
-    void ShowHint(long index, int percent) override;
+    short HintAlignment() const override;
+    int AskHint(long index, int percent, CUGHint *hint) override;
+    CPoint HintPoint(const CRect &client, CPoint pointer) const override;
 };

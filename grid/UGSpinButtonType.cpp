@@ -62,7 +62,7 @@ void CUGSpinButtonType::DrawHalf(CDC *dc, const RECT &button, bool upper, bool p
 void CUGSpinButtonType::OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current) {
     DrawTextBeside(dc, rect, cell, selected, current);
     const RECT button = ButtonRect(*rect);
-    const bool pressed = m_pressed && current;
+    const bool pressed = LooksPressed(current);
     DrawHalf(dc, button, true, pressed && m_upper);
     DrawHalf(dc, button, false, pressed && !m_upper);
 }

@@ -320,6 +320,49 @@ TEST_F(EllipsisTypeTest, TheButtonStaysPressedWhileTheReceiverIsAtWork) {
     EXPECT_FALSE(LooksPressed(1));
 }
 
+TEST(ButtonTypeTest, TheButtonIsAsWideAsAScrollBarAndNoWiderThanItsCell) {
+    const int width = ::GetSystemMetrics(SM_CXVSCROLL);
+    EXPECT_EQ(width, CUGButtonType::ButtonWidth());
+    EXPECT_EQ(CRect(150 - width, 20, 150, 40), CRect(CUGButtonType::ButtonRect(CRect(50, 20, 150, 40))));
+    EXPECT_EQ(CRect(50, 20, 55, 40), CRect(CUGButtonType::ButtonRect(CRect(50, 20, 55, 40))));
+}
+
+// With whole-row highlight all cells of the row are drawn as current ones.
+class ButtonsInARowTest : public CellTypesTest {
+protected:
+    std::vector<COLORREF> ButtonPixels(int col) {
+        const CRect button = ButtonOf(col, 1);
+        CDC *dc = m_grid.GetGridDC();
+        std::vector<COLORREF> pixels;
+        for (int y = button.top; y < button.bottom; ++y) {
+            for (int x = button.left; x < button.right; ++x)
+                pixels.push_back(::GetPixel(dc->GetSafeHdc(), x, y));
+        }
+        m_grid.ReleaseGridDC(dc);
+        return pixels;
+    }
+};
+
+TEST_F(ButtonsInARowTest, WithRowHighlightOnlyTheButtonThatWasPressedIsDown) {
+    m_grid.EnableRowHighlight(1);
+    for (int type : {kEllipsisTypeId, kSpinTypeId, kDropListTypeId}) {
+        Put(0, 1, type, "5", "one\n");
+        Put(1, 1, type, "5", "one\n");
+        m_grid.RedrawAll();
+        PumpAll();
+        const auto other = ButtonPixels(0), own = ButtonPixels(1);
+        const CRect button = ButtonOf(1, 1);
+        PressLeft(m_grid.Cells(), button.CenterPoint().x, button.top + 4);
+        m_grid.RedrawRow(1);
+        PumpAll();
+        EXPECT_TRUE(other == ButtonPixels(0)) << "type " << type;
+        EXPECT_FALSE(own == ButtonPixels(1)) << "type " << type;
+        ReleaseLeft(m_grid.Cells(), button.CenterPoint().x, button.top + 4);
+        if (m_grid.List() != nullptr)
+            SendKey(m_grid.List(), VK_ESCAPE);
+    }
+}
+
 TEST_F(CheckBoxTypeTest, AMarkTooSmallForATickIsASquare) {
     const COLORREF ink = ::GetSysColor(COLOR_WINDOWTEXT);
     Picture off(100, 12), on(100, 12);

@@ -96,9 +96,7 @@ CRect CellTypesTest::RectOf(int col, long row) {
 }
 
 CRect CellTypesTest::ButtonOf(int col, long row) {
-    CRect rect = RectOf(col, row);
-    rect.left = rect.right - ::GetSystemMetrics(SM_CXVSCROLL);
-    return rect;
+    return CRect(CUGButtonType::ButtonRect(RectOf(col, row)));
 }
 
 int CellTypesTest::Click(int type, int col, long row, int updn, CPoint point) {

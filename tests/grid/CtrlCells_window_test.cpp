@@ -229,4 +229,20 @@ TEST_F(CtrlCellsTest, TheStartDefaults) {
     EXPECT_EQ(::GetSysColor(COLOR_BTNFACE), cell.GetBackColor());
 }
 
+TEST_F(CtrlCellsTest, TheHeadingDefaultLiesBelowEveryHeading) {
+    Fill(2, 2);
+    CUGCell cell, read;
+    cell.SetAlignment(UG_ALIGN_RIGHT);
+    EXPECT_EQ(GRID_SUCCESS, m_grid.SetHeadingDefault(&cell));
+    m_grid.GetHeadingDefault(&read);
+    EXPECT_EQ(UG_ALIGN_RIGHT, read.GetAlignment());
+    EXPECT_EQ(-1, read.GetBorder()); // a whole copy
+    std::string alignments;
+    for (const auto &[col, row] : {std::pair(0, -1L), std::pair(-1, 0L), std::pair(-1, -1L), std::pair(0, 0L)}) {
+        m_grid.GetCell(col, row, &read);
+        alignments += std::to_string(read.GetAlignment()) + " ";
+    }
+    EXPECT_EQ("2 2 2 1 ", alignments);
+}
+
 } // namespace

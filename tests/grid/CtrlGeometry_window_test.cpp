@@ -98,4 +98,61 @@ TEST_F(CtrlGeometryTest, TwoBlocksSideBySideStayApart) {
     EXPECT_EQ("200,0..400,40", RectOf(3, 1));
 }
 
+TEST_F(CtrlGeometryTest, AJoinsRangeIsItsBlockAndThatOfACellAloneIsTheCell) {
+    m_grid.SetNumberCols(4);
+    m_grid.SetNumberRows(6);
+    Join(1, 2, 2, 4);
+    const auto range = [&](int col, long row) {
+        int left, right;
+        long top, bottom;
+        m_grid.GetJoinRange(col, row, &left, &top, &right, &bottom);
+        return Shown({left, top, right, bottom});
+    };
+    EXPECT_EQ("1,2..2,4", range(1, 2));
+    EXPECT_EQ("1,2..2,4", range(2, 4));
+    EXPECT_EQ("3,2..3,2", range(3, 2));
+}
+
+TEST_F(CtrlGeometryTest, AnOriginBehindTheCellOrOutsideTheTableIsNone) {
+    m_grid.SetNumberCols(4);
+    m_grid.SetNumberRows(6);
+    const auto origin = [&](int col, long row) {
+        CUGCell cell;
+        cell.SetJoin(false, col, row);
+        int left = 77;
+        long top = 77;
+        const bool found = m_grid.GetJoinOrigin(cell, 2, 3, &left, &top);
+        return std::to_string(found) + ":" + std::to_string(left) + "," + std::to_string(top);
+    };
+    EXPECT_EQ("1:1,2", origin(1, 2));
+    EXPECT_EQ("1:2,3", origin(2, 3));
+    EXPECT_EQ("0:77,77", origin(3, 3));
+    EXPECT_EQ("0:77,77", origin(2, 4));
+    EXPECT_EQ("0:77,77", origin(-1, 2));
+    int left = 77;
+    long top = 77;
+    EXPECT_FALSE(m_grid.GetJoinOrigin(CUGCell(), 2, 3, &left, &top));
+}
+
+// As where the origin is read from another source than the rest of its block.
+TEST_F(CtrlGeometryTest, AJoinWhoseOriginKnowsOfNoBlockIsACellAlone) {
+    constexpr COLORREF kRed = RGB(255, 0, 0);
+    m_grid.SetNumberCols(4);
+    m_grid.SetNumberRows(6);
+    CUGCell cell;
+    cell.SetJoin(false, 1, 2);
+    cell.SetBackColor(kRed);
+    for (long row = 2; row <= 4; ++row)
+        m_grid.SetCell(2, row, &cell);
+    EXPECT_EQ("200,60..300,80", RectOf(2, 3));
+    EXPECT_EQ("0:2,3 200,60..300,80", At(250, 65));
+    m_grid.GotoCell(2, 3);
+    EXPECT_EQ("cur=(2,3) view=(0,0) size=4x6", m_grid.State());
+    m_grid.Update();
+    CDC *dc = m_grid.GetGridDC();
+    for (long row = 2; row <= 4; ++row)
+        EXPECT_EQ(kRed, ::GetPixel(dc->GetSafeHdc(), 250, static_cast<int>(row) * 20 + 10)) << row;
+    m_grid.ReleaseGridDC(dc);
+}
+
 } // namespace

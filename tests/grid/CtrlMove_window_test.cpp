@@ -233,4 +233,25 @@ TEST_F(CtrlMoveTest, AnEmptyGridMovesNowhere) {
     EXPECT_EQ(GRID_ERROR, m_grid.GotoCol(0));
 }
 
+TEST_F(CtrlMoveTest, TheCurrentCellIsBroughtIntoViewWithoutMoving) {
+    Fill(12, 50);
+    m_grid.GotoCell(11, 40);
+    m_grid.SetTopRow(0);
+    m_grid.SetLeftCol(0);
+    m_grid.Take();
+    m_grid.BringCurrentIntoView();
+    EXPECT_EQ("cur=(11,40) view=(8,28) size=12x50", m_grid.State());
+    EXPECT_EQ("", m_grid.Take());
+}
+
+// A host that sets the state block itself has it told by this.
+TEST_F(CtrlMoveTest, TheUpdateTellsWhatChangedSinceTheLastOneAndNothingTwice) {
+    Fill(4, 10);
+    m_grid.m_GI.m_rows.m_current = 3;
+    m_grid.UpdateState();
+    EXPECT_EQ("RowChange(0,3) CellChange(0,0,0,3)", m_grid.Take());
+    m_grid.UpdateState();
+    EXPECT_EQ("", m_grid.Take());
+}
+
 } // namespace

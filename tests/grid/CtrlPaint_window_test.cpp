@@ -2,6 +2,8 @@
 #include "GridWindowTest.h"
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace {
 
@@ -209,6 +211,65 @@ TEST_F(ScrollReadsTest, AViewThatATableTookAlongIsPaintedWholeAndThenScrolled) {
     Read();
     Command(WM_VSCROLL, SB_LINEUP);
     EXPECT_EQ("5 in 0 86 ", Read());
+}
+
+class RedrawTest : public CtrlPaintTest {
+protected:
+    // Which windows have something to paint, and where.
+    std::string Dirty(const std::function<void()> &operation) {
+        PumpAll();
+        operation();
+        const std::pair<const char *, HWND> windows[] = {{"cells", m_grid.Cells()},
+                                                         {"top", m_grid.TopHeading()},
+                                                         {"side", m_grid.SideHeading()},
+                                                         {"corner", m_grid.Corner()}};
+        std::string all;
+        for (const auto &[name, window] : windows) {
+            CRect dirty;
+            if (::GetUpdateRect(window, &dirty, FALSE))
+                all += std::string(name) + " " + std::to_string(dirty.left) + "," + std::to_string(dirty.top) + ".." +
+                       std::to_string(dirty.right) + "," + std::to_string(dirty.bottom) + " ";
+        }
+        return all;
+    }
+};
+
+TEST_F(RedrawTest, ACellARowAndAColumnAreRepaintedWithTheirHeadings) {
+    Painted(4, 10);
+    const std::string width = std::to_string(m_grid.m_GI.m_cols.m_extent);
+    const std::string height = std::to_string(m_grid.m_GI.m_rows.m_extent);
+    EXPECT_EQ("cells 100,40..200,60 ", Dirty([&] { m_grid.RedrawCell(1, 2); }));
+    EXPECT_EQ("cells 0,40.." + width + ",60 side 0,40..50,60 ", Dirty([&] { m_grid.RedrawRow(2); }));
+    EXPECT_EQ("cells 100,0..200," + height + " top 100,0..200,20 ", Dirty([&] { m_grid.RedrawCol(1); }));
+    EXPECT_EQ("", Dirty([&] { m_grid.RedrawCell(4, 0); }));
+    EXPECT_EQ("", Dirty([&] { m_grid.RedrawRow(10); }));
+    EXPECT_EQ("", Dirty([&] { m_grid.RedrawCol(4); }));
+    const std::string all = Dirty([&] { m_grid.RedrawAll(); });
+    EXPECT_EQ(all, Dirty([&] { m_grid.RedrawCell(1, -1); })); // headings are repainted with everything
+    EXPECT_EQ(all, Dirty([&] { m_grid.RedrawCell(-1, 2); }));
+}
+
+TEST_F(RedrawTest, ALockedColumnIsRepaintedWhereItIsLockedToo) {
+    Painted(4, 10);
+    m_grid.SetLockedColumns(2);
+    const std::string height = std::to_string(m_grid.m_GI.m_rows.m_extent);
+    EXPECT_EQ("cells 100,40..200,60 side 0,0..50," + height + " ", Dirty([&] { m_grid.RedrawCell(1, 2); }));
+    EXPECT_EQ("cells 200,40..300,60 ", Dirty([&] { m_grid.RedrawCell(2, 2); }));
+    EXPECT_EQ("cells 100,0..200," + height + " top 100,0..200,20 side 0,0..50," + height + " corner 0,0..50,20 ",
+              Dirty([&] { m_grid.RedrawCol(1); }));
+}
+
+// The box may cover less than the cell, and a locked column shows the text a second time.
+TEST_F(RedrawTest, AWrittenEditRepaintsItsWholeCellAndTheLockedColumn) {
+    Painted(4, 10);
+    m_grid.SetLockedColumns(1);
+    m_grid.m_onSetupEditWindow = [](RECT *rect, DWORD *) { rect->right = rect->left + 10; };
+    m_grid.GotoCell(0, 2);
+    m_grid.StartEdit();
+    ASSERT_NE(nullptr, m_grid.Edit());
+    ::SetWindowTextA(m_grid.Edit(), "new");
+    const std::string height = std::to_string(m_grid.m_GI.m_rows.m_extent);
+    EXPECT_EQ("cells 0,40..100,60 side 0,0..50," + height + " ", Dirty([&] { m_host.SetFocus(); }));
 }
 
 } // namespace

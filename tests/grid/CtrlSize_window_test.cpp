@@ -174,6 +174,10 @@ TEST_F(CtrlSizeTest, SettingsRefuseWhatIsAboveTheirRange) {
     EXPECT_EQ(GRID_SUCCESS, m_grid.SetBallisticMode(3));
     EXPECT_EQ(GRID_ERROR, m_grid.SetBallisticMode(4));
     EXPECT_EQ(GRID_SUCCESS, m_grid.EnableRowHighlight(9));
+    EXPECT_EQ(GRID_SUCCESS, m_grid.SetBallisticDelay(25));
+    EXPECT_EQ(25, m_grid.m_GI.m_ballisticDelay);
+    EXPECT_EQ(GRID_SUCCESS, m_grid.SetBallisticDelay(-1));
+    EXPECT_EQ(0, m_grid.m_GI.m_ballisticDelay); // less than no time is none
 }
 
 TEST_F(CtrlSizeTest, LockedColumnsAreAtMostTheColumns) {

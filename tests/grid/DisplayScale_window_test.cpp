@@ -100,6 +100,15 @@ TEST_F(DisplayScaleTest, TheDefaultSizesFollow) {
     EXPECT_EQ(Scaled(20), ChildHeight(m_grid.TopHeading()));
 }
 
+TEST_F(DisplayScaleTest, HostsScaleLengthsAndRowHeightsTheSameWay) {
+    MakeGrid();
+    EXPECT_EQ(Scaled(30), m_grid.ScaledPx(30));
+    EXPECT_EQ(Scaled(40), m_grid.ScaledRowHeight(40));
+    // No row is lower than its text.
+    EXPECT_LT(m_grid.ScaledPx(2), m_grid.ScaledRowHeight(2));
+    EXPECT_EQ(m_grid.ScaledRowHeight(3), m_grid.ScaledRowHeight(2));
+}
+
 TEST_F(DisplayScaleTest, BarsAndButtonsFollowTheSystem) {
     MakeGrid();
     m_grid.SetNumberRows(1000);

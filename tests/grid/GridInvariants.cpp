@@ -3,6 +3,29 @@
 #include <algorithm>
 #include <vector>
 
+int ProbedGrid::OnSetupEditWindow(int col, long row, RECT *rect, CUGCell *cell, DWORD *style, int flag) {
+    m_editMayStand = true;
+    return RecordingGrid::OnSetupEditWindow(col, row, rect, cell, style, flag);
+}
+
+void ProbedGrid::OnCellTypeNotify(long id, int col, long row, long message, LPARAM param) {
+    m_listMayStand |= id == kDropListTypeId && message == kListOpens;
+    RecordingGrid::OnCellTypeNotify(id, col, row, message, param);
+}
+
+HWND ProbedGrid::List() {
+    constexpr int kListChildId = 238;
+    const HWND list = m_listMayStand ? ::GetDlgItem(m_hWnd, kListChildId) : nullptr;
+    m_listMayStand = list != nullptr;
+    return list;
+}
+
+HWND ProbedGrid::LostEdit() {
+    const HWND edit = m_editMayStand ? ::GetDlgItem(Cells(), kEditChildId) : nullptr;
+    m_editMayStand = edit != nullptr;
+    return edit;
+}
+
 namespace {
 
 std::string Numbers(std::initializer_list<long> values) {
@@ -224,7 +247,7 @@ std::string Enumeration(ProbedGrid &grid) {
 std::string Edit(ProbedGrid &grid) {
     const HWND edit = grid.Edit();
     if (edit == nullptr)
-        return ::GetDlgItem(grid.Cells(), kEditChildId) == nullptr ? "" : "an edit window that nobody knows";
+        return grid.LostEdit() == nullptr ? "" : "an edit window that nobody knows";
     const int col = grid.m_GI.m_editCol;
     const long row = grid.m_GI.m_editRow;
     if (::GetParent(edit) != grid.Cells() || !(::GetWindowLongA(edit, GWL_STYLE) & WS_VISIBLE))

@@ -14,7 +14,17 @@ public:
     const CUGCnrBtn &CornerPart() const { return m_cornerBtn; }
     const CUGEdit &EditPart() const { return m_grid.m_edit; }
     bool m_readsFail = false; // a cell that cannot be read is told as one that is not joined
-    HWND List() const { return ::GetDlgItem(m_hWnd, 238); }
+    // The open drop list, or null. Looking for a window asks the system, so it is looked for only while one may
+    // stand; the same holds of an edit that nobody knows.
+    HWND List();
+    HWND LostEdit();
+
+    int OnSetupEditWindow(int col, long row, RECT *rect, CUGCell *cell, DWORD *style, int flag) override;
+    void OnCellTypeNotify(long id, int col, long row, long message, LPARAM param) override;
+
+private:
+    bool m_editMayStand = false;
+    bool m_listMayStand = false;
 };
 
 // The first rule that the control breaks, with the values at hand; empty while all hold. `turn` chooses the

@@ -10,14 +10,19 @@ void RandomGrid::EndDrag() {
     ::PostMessageA(Cells(), WM_LBUTTONUP, 0, MAKELPARAM(10, 10));
 }
 
-int RandomGrid::Note(const char *name, std::initializer_list<long>) {
+// Behind an end no further step is made, and none is told.
+void RandomGrid::CountDragStep(bool hit, long newCol) {
+    const bool atEnd = hit || (m_dragsAcross && (newCol == 0 || newCol == GetNumberCols() - 1));
+    m_dragStepsLeft = atEnd ? 0 : m_dragStepsLeft - 1;
+    if (m_dragStepsLeft == 0)
+        EndDrag();
+}
+
+int RandomGrid::Note(const char *name, std::initializer_list<long> arguments) {
     const bool move = std::strcmp(name, "CanMove") == 0;
     const bool hit = std::strncmp(name, "Hit", 3) == 0;
-    if (m_dragStepsLeft > 0 && (move || hit)) {
-        m_dragStepsLeft = hit ? 0 : m_dragStepsLeft - 1; // behind an end no further step is made
-        if (m_dragStepsLeft == 0)
-            EndDrag();
-    }
+    if (m_dragStepsLeft > 0 && (move || hit))
+        CountDragStep(hit, move ? arguments.begin()[2] : -1);
     if (!m_vetoing)
         return 1;
     // What a host does that drops an empty record as it is left, or answers a move by showing less.
@@ -34,6 +39,16 @@ void RandomGrid::OnHitBottom(long numRows, long rowsPast, long rowsFound) {
         SetNumberRows(numRows + std::min(rowsFound, 20L));
 }
 
+// A host that shows a column of its source twice repaints both.
+int RandomGrid::OnSetCell(int col, long row, CUGCell *cell) {
+    for (int other = 0; other < GetNumberCols(); ++other) {
+        const int shown = GetDataColNumber(other);
+        if (other != col && (shown == col || shown == GetDataColNumber(col)))
+            RedrawCol(other);
+    }
+    return RecordingGrid::OnSetCell(col, row, cell);
+}
+
 void RandomGrid::OnCharDown(UINT *key, int processed) {
     RecordingGrid::OnCharDown(key, processed);
     if (processed == UGCT_NOT_HANDLED && *key >= ' ')
@@ -41,7 +56,8 @@ void RandomGrid::OnCharDown(UINT *key, int processed) {
 }
 
 RandomEvents::RandomEvents(unsigned seed)
-    : m_random(seed), m_first(&m_random, 1), m_second(&m_random, 2), m_grid(&m_random) {
+    : m_seed(seed), m_random(seed), m_chance(seed), m_first(&m_chance, 1), m_second(&m_chance, 2),
+      m_grid(&m_chance) {
     m_grid.CreateGrid(WS_VISIBLE, CRect(0, 0, 420, 260), &m_host, 100);
     m_grid.AddCellType(&m_ellipsis);
     m_grid.AddDataSource(&m_first);
@@ -67,13 +83,28 @@ void RandomEvents::Say(const char *format, ...) {
     m_text = text;
 }
 
+namespace {
+
+// All that waits but painting, which comes when nothing else does: behind quick input it is several events late.
+void PumpInput() {
+    MSG message;
+    constexpr UINT kAllButPaint = PM_QS_INPUT | PM_QS_POSTMESSAGE | PM_QS_SENDMESSAGE;
+    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE | kAllButPaint)) {
+        ::TranslateMessage(&message);
+        ::DispatchMessageA(&message);
+    }
+}
+
+} // namespace
+
 void RandomEvents::Next() {
+    m_chance = SeededRandom(m_seed + ++m_number);
     int ticket = m_random.Below(m_weights);
     const Event *event = kEvents;
     while (ticket >= event->weight)
         ticket -= (event++)->weight;
     (this->*event->act)();
-    PumpAll();
+    m_random.OneIn(3) ? PumpAll() : PumpInput();
 }
 
 namespace {
@@ -106,6 +137,23 @@ std::vector<BYTE> Pixels(HWND window) {
     return pixels;
 }
 
+// The rectangle that holds all pixels that differ.
+std::string Difference(HWND window, const std::vector<BYTE> &before, const std::vector<BYTE> &now) {
+    CRect client, all(0, 0, 0, 0);
+    ::GetClientRect(window, &client);
+    if (before.size() != now.size() || now.empty())
+        return ": another size";
+    for (size_t i = 0; i < now.size(); i += 4) {
+        const int pixel = static_cast<int>(i / 4);
+        const int x = pixel % client.Width(), y = client.Height() - 1 - pixel / client.Width(); // bottom-up
+        if (std::memcmp(&before[i], &now[i], 4) != 0)
+            all.UnionRect(CRect(all), CRect(x, y, x + 1, y + 1));
+    }
+    return ": " + std::to_string(all.left) + "," + std::to_string(all.top) + " to " + std::to_string(all.right) +
+           "," + std::to_string(all.bottom) + " of " + std::to_string(client.Width()) + "x" +
+           std::to_string(client.Height());
+}
+
 } // namespace
 
 bool RandomEvents::ScreenIsStale() {
@@ -115,6 +163,15 @@ bool RandomEvents::ScreenIsStale() {
     const bool hint = (::GetWindowLongA(m_grid.Hint(), GWL_STYLE) & WS_VISIBLE) != 0;
     if (hint)
         return false;
+    // A table that grows as it is painted looks otherwise each time.
+    m_first.m_grows = m_second.m_grows = false;
+    PumpAll();
+    const bool stale = DiffersFromAFullPaint();
+    m_first.m_grows = m_second.m_grows = true;
+    return stale;
+}
+
+bool RandomEvents::DiffersFromAFullPaint() {
     const HWND windows[] = {m_grid.Cells(), m_grid.TopHeading(), m_grid.SideHeading(), m_grid.Corner()};
     std::vector<BYTE> before[std::size(windows)];
     for (size_t i = 0; i < std::size(windows); ++i) {
@@ -126,7 +183,7 @@ bool RandomEvents::ScreenIsStale() {
         ::UpdateWindow(windows[i]);
         const std::vector<BYTE> now = Pixels(windows[i]);
         if (before[i] != now) {
-            m_text += " [window " + std::to_string(i) + "]";
+            m_text += " [window " + std::to_string(i) + Difference(windows[i], before[i], now) + ", " + m_grid.State() + "]";
             return true;
         }
     }

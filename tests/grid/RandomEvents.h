@@ -17,16 +17,18 @@ public:
     explicit RandomGrid(SeededRandom *random) : m_random(random) {}
     void OnHitBottom(long numRows, long rowsPast, long rowsFound) override;
     void OnCharDown(UINT *key, int processed) override;
+    int OnSetCell(int col, long row, CUGCell *cell) override;
     int OnMenuStart(int, long, int) override { return 0; } // a menu would wait for a person
-    int OnSetupEditWindow(int, long, RECT *, CUGCell *, DWORD *, int) override { return 0; }
 
     bool m_vetoing = false;
-    int m_dragStepsLeft = 0; // drag scrolling ends when they are used up
+    int m_dragStepsLeft = 0;     // drag scrolling ends when they are used up
+    bool m_dragsAcross = false;  // along the row only: no end is told, so the last column ends it as well
 
 protected:
     int Note(const char *name, std::initializer_list<long> arguments) override;
 
 private:
+    void CountDragStep(bool hit, long newCol);
     void EndDrag();
     SeededRandom *m_random; // borrowed
 };
@@ -49,6 +51,7 @@ private:
     };
     static const Event kEvents[];
 
+    bool DiffersFromAFullPaint();
     // Notes what is about to happen.
     void Say(const char *format, ...);
     CPoint PointInCells();
@@ -67,6 +70,8 @@ private:
     void ReleaseOnly();
     void Drag();
     void DragOutside();
+    void DragAcross();
+    void HoldOutside(CPoint from, int x, int y, int steps);
     void ListInput();
     void HeadingClick();
     void HeadingDrag();
@@ -96,7 +101,11 @@ private:
     void Paste();
     void Misfortune();
 
-    SeededRandom m_random;
+    unsigned m_seed, m_number = 0;
+    SeededRandom m_random; // chooses the events
+    // What sources and notifications answer. It begins anew with each event: how often they are asked depends on
+    // when painting comes, and that must not change the events that follow.
+    SeededRandom m_chance;
     RandomSource m_first, m_second;
     HostWindow m_host;
     CUGEllipsisType m_ellipsis;

@@ -10,6 +10,7 @@ const RandomEvents::Event RandomEvents::kEvents[] = {
     {15, &RandomEvents::RightClick},    {10, &RandomEvents::PressOnly},
     {15, &RandomEvents::MoveOnly},      {15, &RandomEvents::ReleaseOnly},
     {20, &RandomEvents::Drag},          {4, &RandomEvents::DragOutside},
+    {4, &RandomEvents::DragAcross},
     {20, &RandomEvents::ListInput},     {20, &RandomEvents::HeadingClick},
     {20, &RandomEvents::HeadingDrag},   {8, &RandomEvents::CornerClick},
     {5, &RandomEvents::CornerDrag},     {20, &RandomEvents::Wheel},

@@ -154,13 +154,30 @@ void RandomEvents::DragOutside() {
     const CPoint from = PointInCells();
     const int x = m_random.Of({-40, 20, m_grid.m_GI.m_cols.m_extent + 120});
     const int y = m_random.Of({-70, m_grid.m_GI.m_rows.m_extent + 90});
-    const int mode = m_random.Below(4), steps = m_random.Between(1, 4);
+    HoldOutside(from, x, y, m_random.Between(1, 4));
+}
+
+// To one side only. Where the row ends there nothing is told, so the pointer goes where there is a column left.
+void RandomEvents::DragAcross() {
+    const CPoint from = PointInCells();
+    const int beyond = m_random.Of({10, 60, 160}), steps = m_random.Between(1, 4);
+    m_grid.m_dragsAcross = true;
+    HoldOutside(from, m_random.OneIn(2) ? -beyond : m_grid.m_GI.m_cols.m_extent + beyond, 0, steps);
+    m_grid.m_dragsAcross = false;
+}
+
+void RandomEvents::HoldOutside(CPoint from, int x, int y, int steps) {
+    const int mode = m_random.Below(4);
     Say("drag outside from %ld,%ld to %d,%d in mode %d", from.x, from.y, x, y, mode);
-    if (m_grid.GetNumberRows() == 0 || m_grid.GetNumberCols() == 0)
+    const CUGAxis &cols = m_grid.m_GI.m_cols, &rows = m_grid.m_GI.m_rows;
+    const bool across = m_grid.m_dragsAcross;
+    if (rows.m_count == 0 || cols.m_count == 0 || (across && (cols.m_count < 2 || rows.m_extent == 0)))
         return;
     const bool vetoing = std::exchange(m_grid.m_vetoing, false);
     m_grid.SetBallisticMode(mode);
     PressLeft(m_grid.Cells(), from.x, from.y);
+    if (across && cols.m_current == (x < 0 ? 0 : cols.m_count - 1))
+        x = x < 0 ? cols.m_extent + 60 : -60;
     m_grid.m_dragStepsLeft = steps;
     MoveMouse(m_grid.Cells(), x, y, MK_LBUTTON);
     m_grid.m_dragStepsLeft = 0;

@@ -1,4 +1,6 @@
-// Random events leave a grid control whole. Another run: ORVANE_EVENTS_SEED and ORVANE_EVENTS_COUNT.
+// Random events leave a grid control whole. Another run: ORVANE_EVENTS_SEED and ORVANE_EVENTS_COUNT. Where the
+// screen was found stale, ORVANE_EVENTS_LOOK, the number of the last event behind which it was not, finds the one
+// that made it so.
 #include "RandomEvents.h"
 
 #include <gtest/gtest.h>
@@ -50,13 +52,14 @@ TEST(RandomEventsTest, TheGridStaysWholeUnderRandomEvents) {
     std::signal(SIGABRT, TellAbort);
     g_progress.seed = Setting("ORVANE_EVENTS_SEED", kSeed);
     const unsigned count = Setting("ORVANE_EVENTS_COUNT", kCount);
+    const unsigned look = Setting("ORVANE_EVENTS_LOOK", count);
     RandomEvents events(g_progress.seed);
     g_progress.events = &events;
     for (g_progress.number = 1; g_progress.number <= count; ++g_progress.number) {
         events.Next();
         const std::string broken = events.Broken(g_progress.number);
         ASSERT_EQ("", broken) << g_progress.Where();
-        if (g_progress.number % kScreenEvery == 0) {
+        if (g_progress.number % kScreenEvery == 0 || g_progress.number > look) {
             ASSERT_FALSE(events.ScreenIsStale()) << g_progress.Where();
         }
     }

@@ -1,5 +1,7 @@
 #include "RandomSource.h"
 
+#include "grid/UGCtrl.h"
+
 namespace {
 
 constexpr int kTypes[] = {0, 1, 2, 6, 1002, 5, 0, 8, 0, 2};
@@ -45,8 +47,10 @@ void RandomSource::Join(int col, long row, CUGCell *cell) const {
 int RandomSource::SetCell(int col, long row, CUGCell *cell) {
     if (Fails(5))
         return GRID_ERROR;
-    if (m_written.size() >= kWrittenMost)
+    if (m_written.size() >= kWrittenMost) {
         m_written.clear();
+        m_ctrl->RedrawAll();
+    }
     m_written[{col, row}] = cell->GetText();
     return GRID_SUCCESS;
 }
@@ -69,6 +73,6 @@ int RandomSource::GetColName(int col, CString *name) {
 int RandomSource::RequestMoreRows(long, long wanted, long *found) {
     if (Fails(2))
         return GRID_ERROR;
-    *found = m_random->OneIn(2) ? wanted : 0;
+    *found = m_grows && m_random->OneIn(2) ? wanted : 0;
     return GRID_SUCCESS;
 }

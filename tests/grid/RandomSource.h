@@ -23,6 +23,7 @@ public:
     int RequestMoreRows(long rowCount, long wanted, long *found) override;
 
     bool m_fails = false; // now and then, while set
+    bool m_grows = true;  // has more rows now and then
 
 private:
     bool Fails(int chances) { return m_fails && m_random->OneIn(chances); }
