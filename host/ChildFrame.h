@@ -35,6 +35,10 @@ protected:
     afx_msg void OnEditPaste();
     afx_msg void OnEditBlank();
     afx_msg void OnEditSelectAll();
+    afx_msg void OnEditFind();
+    afx_msg void OnEditReplace();
+    afx_msg void OnEditFindAgain();
+    afx_msg void OnRecordGoto();
     afx_msg void OnRecordAppend();
     afx_msg void OnRecordInsert();
     afx_msg void OnRecordDelete();
@@ -43,6 +47,9 @@ protected:
     afx_msg void OnColumnsOrder();
     afx_msg void OnColumnsFit();
     afx_msg void OnColumnsReset();
+    afx_msg void OnColumnsFreeze();
+    afx_msg void OnViewHorizontalLines();
+    afx_msg void OnViewVerticalLines();
     afx_msg void OnEnterIsTab();
     afx_msg void OnMode(UINT id);
     afx_msg void OnUpdateSave(CCmdUI *command);
@@ -54,6 +61,10 @@ protected:
     afx_msg void OnUpdateBlank(CCmdUI *command);
     afx_msg void OnUpdateChange(CCmdUI *command);
     afx_msg void OnUpdateDelete(CCmdUI *command);
+    afx_msg void OnUpdateFindAgain(CCmdUI *command);
+    afx_msg void OnUpdateGoto(CCmdUI *command);
+    afx_msg void OnUpdateHorizontalLines(CCmdUI *command);
+    afx_msg void OnUpdateVerticalLines(CCmdUI *command);
     afx_msg void OnUpdateColumns(CCmdUI *command);
     afx_msg void OnUpdateFields(CCmdUI *command);
     afx_msg void OnUpdateReset(CCmdUI *command);

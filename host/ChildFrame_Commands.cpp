@@ -10,14 +10,14 @@ void CChildFrame::OnFileClose() {
 }
 
 void CChildFrame::OnFileSave() {
-    m_editor.OnSave(-1);
+    m_editor.OnSave();
 }
 
 void CChildFrame::OnFileSaveAs() {
-    CString name(m_editor.GetFilePath());
-    bool filtered = false;
-    if (GetHostApp()->Service().PromptSaveAs(name, &filtered, false) && m_editor.OnSaveAs(name, filtered, -1))
-        AfxGetApp()->AddToRecentFileList(name);
+    const CString before = m_editor.GetFilePath();
+    m_editor.OnSaveAs();
+    if (m_editor.GetFilePath() != before)
+        AfxGetApp()->AddToRecentFileList(m_editor.GetFilePath());
 }
 
 void CChildFrame::OnFileInformation() {
@@ -58,6 +58,23 @@ void CChildFrame::OnEditSelectAll() {
     m_editor.SelectAll();
 }
 
+void CChildFrame::OnEditFind() {
+    m_editor.OnFind();
+}
+
+void CChildFrame::OnEditReplace() {
+    m_editor.OnFindReplace();
+}
+
+void CChildFrame::OnEditFindAgain() {
+    m_editor.OnFindAgain();
+}
+
+void CChildFrame::OnRecordGoto() {
+    m_editor.SaveEditContents();
+    m_editor.OnGotoRecord();
+}
+
 void CChildFrame::OnRecordAppend() {
     m_editor.SaveEditContents();
     m_editor.OnAppendRow(0);
@@ -70,7 +87,7 @@ void CChildFrame::OnRecordInsert() {
 
 void CChildFrame::OnRecordDelete() {
     m_editor.SaveEditContents();
-    m_editor.OnDeleteRows(false);
+    m_editor.OnDeleteRows();
 }
 
 void CChildFrame::OnColumnsHide() {
@@ -96,6 +113,19 @@ void CChildFrame::OnColumnsFit() {
 void CChildFrame::OnColumnsReset() {
     m_editor.SaveEditContents();
     m_editor.ShowFieldsOfFile();
+}
+
+void CChildFrame::OnColumnsFreeze() {
+    m_editor.SaveEditContents();
+    m_editor.OnLockColumns();
+}
+
+void CChildFrame::OnViewHorizontalLines() {
+    m_editor.SetIsShowingHorizLines(!m_editor.IsShowingHorizLines());
+}
+
+void CChildFrame::OnViewVerticalLines() {
+    m_editor.SetIsShowingVerticleLines(!m_editor.IsShowingVerticleLines());
 }
 
 void CChildFrame::OnEnterIsTab() {
@@ -154,6 +184,22 @@ void CChildFrame::OnUpdateReset(CCmdUI *command) {
 
 void CChildFrame::OnUpdateChange(CCmdUI *command) {
     command->Enable(!m_editor.IsGridReadOnly());
+}
+
+void CChildFrame::OnUpdateFindAgain(CCmdUI *command) {
+    command->Enable(m_editor.CanFindAgain());
+}
+
+void CChildFrame::OnUpdateGoto(CCmdUI *command) {
+    command->Enable(m_editor.IsOperationsValid());
+}
+
+void CChildFrame::OnUpdateHorizontalLines(CCmdUI *command) {
+    command->SetCheck(m_editor.IsShowingHorizLines());
+}
+
+void CChildFrame::OnUpdateVerticalLines(CCmdUI *command) {
+    command->SetCheck(m_editor.IsShowingVerticleLines());
 }
 
 void CChildFrame::OnUpdateEnterIsTab(CCmdUI *command) {

@@ -26,6 +26,8 @@ CTableEditor *ActiveEditor() {
 
 } // namespace
 
+CHostService::CHostService() : m_findDlg([]() -> CWnd * { return ActiveEditor(); }) {}
+
 void CHostService::SetEditorTitle(const char *, const char *, CEditorCore *editor) {
     if (auto *child = DYNAMIC_DOWNCAST(CChildFrame, editor->GetParent()))
         child->RefreshTitle();
@@ -45,8 +47,13 @@ void CHostService::GetAppTitle(CString &title) {
     title = AfxGetAppName();
 }
 
-// Escape stops what takes long.
+// Escape stops what takes long. It is asked for every cell, and the keys are looked at now and then.
 int CHostService::CheckAbort() {
+    constexpr ULONGLONG kLookEveryMs = 50;
+    const ULONGLONG now = ::GetTickCount64();
+    if (now - m_lastLook < kLookEveryMs)
+        return 0;
+    m_lastLook = now;
     return (::GetAsyncKeyState(VK_ESCAPE) & 0x8000) != 0;
 }
 
@@ -129,10 +136,13 @@ bool CHostService::PromptXParms(CStringArray &, CStringArray &, CArray<bool, boo
     return false;
 }
 
-// The search dialogs come with the editor that searches.
-void CHostService::ShowFindDialog(bool, CWnd *, UINT) {}
+void CHostService::ShowFindDialog(bool inMultipleSelection, CWnd *, UINT message) {
+    m_findDlg.Show(false, inMultipleSelection, message, AfxGetMainWnd());
+}
 
-void CHostService::ShowReplaceDialog(bool, CWnd *, UINT) {}
+void CHostService::ShowReplaceDialog(bool inMultipleSelection, CWnd *, UINT message) {
+    m_findDlg.Show(true, inMultipleSelection, message, AfxGetMainWnd());
+}
 
 void CHostService::GetDefaultFieldWidths(UINT *code, UINT *description) {
     *code = AfxGetApp()->GetProfileInt(kLookupSection, "CodeWidth", kCodeWidth);
@@ -187,6 +197,8 @@ void CHostService::EndWaitCursor() {
         DoWaitCursor(-1);
 }
 
+// In the status bar: it comes with work that was asked for, and nobody wants to answer it.
 void CHostService::ShowMessage(const char *text) {
-    AfxMessageBox(text, MB_ICONINFORMATION);
+    if (auto *frame = DYNAMIC_DOWNCAST(CMainFrame, AfxGetMainWnd()))
+        frame->SetMessageText(text);
 }

@@ -4,12 +4,14 @@
 #include <afxwin.h>
 
 #include "editorcore/AppInterface.h"
+#include "host/FindDlg.h"
 #include "host/HostOptions.h"
 
 class CDbfDataSource;
 
 class CHostService final : public CVAppInterface {
 public:
+    CHostService();
     CHostOptions &Options() { return m_options; }
     // Takes back the wait cursor that a failed operation of the library left raised.
     void EndWaitCursor();
@@ -53,5 +55,7 @@ private:
     static bool MayOverwrite(const std::string &path);
 
     CHostOptions m_options;
+    CFindDlg m_findDlg;
+    ULONGLONG m_lastLook = 0; // milliseconds, at the keys
     int m_waits = 0; // wait cursors that the library has raised
 };

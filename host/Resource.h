@@ -29,6 +29,19 @@
 #define IDC_MOVE_TOP 1114
 #define IDC_MOVE_BOTTOM 1115
 
+#define IDD_FIND 140
+#define IDC_FIND_TEXT 1140
+#define IDC_REPLACE_LABEL 1141
+#define IDC_REPLACE_TEXT 1142
+#define IDC_FIND_MODE 1143
+#define IDC_FIND_UP 1144 // the directions stand in the order of their numbers
+#define IDC_FIND_DOWN 1145
+#define IDC_FIND_ALL 1146
+#define IDC_FIND_SELECTION 1147
+#define IDC_FIND_ALL_FIELDS 1148
+#define IDC_FIND_CASE 1149
+#define IDC_FIND_REGEX 1150
+
 #define ID_RECORD_APPEND 32771
 #define ID_EDIT_BLANK 32772
 #define ID_MODE_NORMAL 32773 // the three modes stand in the order of their numbers
@@ -45,6 +58,11 @@
 #define ID_COLUMNS_ORDER 32784
 #define ID_COLUMNS_FIT 32785
 #define ID_COLUMNS_RESET 32786
+
+#define ID_RECORD_GOTO 32787
+#define ID_COLUMNS_FREEZE 32788
+#define ID_VIEW_HORIZONTAL_LINES 32789
+#define ID_VIEW_VERTICAL_LINES 32790
 
 #define ID_PANE_RECORD 33001
 #define ID_PANE_FIELD 33002

@@ -3,7 +3,7 @@
 #include "host/FieldChoice.h"
 #include "host/Resource.h"
 
-BEGIN_MESSAGE_MAP(CTableEditor, CEditorCore)
+BEGIN_MESSAGE_MAP(CTableEditor, COrvaneEditor)
     ON_WM_CONTEXTMENU()
 END_MESSAGE_MAP()
 
@@ -112,7 +112,7 @@ int CTableEditor::OnCanMove(int oldCol, long oldRow, int newCol, long newRow) {
     const bool rightClick = m_GI.m_moveType == UG_MOVED_BY_CLICK && (::GetKeyState(VK_RBUTTON) & 0x8000) != 0;
     if (rightClick && IsSelected(newCol, newRow))
         return 0;
-    return CEditorCore::OnCanMove(oldCol, oldRow, newCol, newRow);
+    return COrvaneEditor::OnCanMove(oldCol, oldRow, newCol, newRow);
 }
 
 void CTableEditor::OnRClicked(int col, long row, int updn, RECT *rect, POINT *point, int processed) {
@@ -160,14 +160,14 @@ void CTableEditor::OnCB_RClicked(int updn) {
 void CTableEditor::OnKeyDown(UINT *key, int processed) {
     if (*key == VK_DELETE)
         SelectCurrentIfNothing();
-    CEditorCore::OnKeyDown(key, processed);
+    COrvaneEditor::OnKeyDown(key, processed);
 }
 
 void CTableEditor::OnKeyUp(UINT *key, int processed) {
     if (*key == VK_APPS)
         ShowMenuByKey();
     else
-        CEditorCore::OnKeyUp(key, processed);
+        COrvaneEditor::OnKeyUp(key, processed);
 }
 
 // Shift+F10. The mouse's own menus are shown as the button comes up.

@@ -2,9 +2,9 @@
 // commands that several operations of the library make up.
 #pragma once
 
-#include "editorcore/EditorCore.h"
+#include "dataeditor/OrvaneEditor.h"
 
-class CTableEditor : public CEditorCore {
+class CTableEditor : public COrvaneEditor {
 public:
     // The whole table, or the text of the open edit box. The current cell stays where it is.
     void SelectAll();
