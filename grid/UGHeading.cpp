@@ -44,7 +44,8 @@ void CUGHeading::OnPaint() {
     m_ctrl->OnDrawSetup(&dc, DrawSection());
     const CUGAxis &axis = Axis();
     long end = 0;
-    for (long index = axis.m_leading; index < axis.m_count && end < axis.m_extent && !axis.AllHidden(); ++index) {
+    const bool drawn = HasParts() && !axis.AllHidden();
+    for (long index = axis.m_leading; drawn && index < axis.m_count && end < axis.m_extent; ++index) {
         const long begin = end;
         end = axis.EndOf(begin, index);
         const RECT rect = Strip(begin, end);

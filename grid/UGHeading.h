@@ -25,6 +25,8 @@ public:
     CUGGridInfo *m_GI = nullptr;
 
 protected:
+    // Whether there is anything to draw but the back colour.
+    virtual bool HasParts() const { return true; }
     // The axis, and a point's and rectangle's coordinates along it.
     virtual CUGAxis &Axis() const = 0;
     virtual int Along(CPoint point) const = 0;

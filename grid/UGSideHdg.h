@@ -7,6 +7,8 @@ class ORVANE_API CUGSideHdg : public CUGHeading {
     DECLARE_DYNAMIC(CUGSideHdg)
 
 protected:
+    // Without columns there are no records to head.
+    bool HasParts() const override { return m_GI->m_cols.m_count > 0; }
     CUGAxis &Axis() const override;
     int Along(CPoint point) const override { return point.y; }
     RECT Strip(long begin, long end) const override;

@@ -54,6 +54,32 @@ TEST_F(CtrlPaintTest, ScrollingByOneLineReadsThatLineOnly) {
     EXPECT_EQ("", RowsRead(source)); // the move itself has painted
 }
 
+TEST_F(CtrlPaintTest, WithNoRowsOrNoColumnsTheAreaHasTheHeadingsBackAndTheSideHeadingReadsNothing) {
+    RecordingSource &source = Painted(4, 10);
+    CUGCell heading;
+    m_grid.GetHeadingDefault(&heading);
+    const auto isBare = [&] {
+        m_grid.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        CDC *dc = m_grid.GetGridDC();
+        bool bare = true;
+        for (int x : {1, 50, 200, 440})
+            bare = bare && ::GetPixel(dc->GetSafeHdc(), x, 10) == heading.GetBackColor();
+        m_grid.ReleaseGridDC(dc);
+        return bare;
+    };
+    EXPECT_FALSE(isBare());
+    m_grid.SetNumberRows(0);
+    Forget(source);
+    EXPECT_TRUE(isBare());
+    EXPECT_EQ(0, source.m_reads);
+    m_grid.SetNumberRows(10);
+    EXPECT_FALSE(isBare());
+    m_grid.SetNumberCols(0);
+    Forget(source);
+    EXPECT_TRUE(isBare());
+    EXPECT_EQ(0, source.m_reads);
+}
+
 TEST_F(CtrlPaintTest, MovingTheCurrentCellReadsTheTwoCellsThatChanged) {
     RecordingSource &source = Painted(4, 1000);
     m_grid.GotoCell(1, 5);
