@@ -4,6 +4,10 @@
 
 IMPLEMENT_DYNAMIC(CUGSideHdg, CUGHeading)
 
+bool CUGSideHdg::HasParts() const {
+    return m_GI->m_cols.m_count > 0;
+}
+
 CUGAxis &CUGSideHdg::Axis() const {
     return m_GI->m_rows;
 }

@@ -8,7 +8,7 @@ class ORVANE_API CUGSideHdg : public CUGHeading {
 
 protected:
     // Without columns there are no records to head.
-    bool HasParts() const override { return m_GI->m_cols.m_count > 0; }
+    bool HasParts() const override;
     CUGAxis &Axis() const override;
     int Along(CPoint point) const override { return point.y; }
     RECT Strip(long begin, long end) const override;
