@@ -273,6 +273,52 @@ TEST_F(EditorLoadTest, ALayoutCutAtAnyLengthGivesWayToADefaultOne) {
     }
 }
 
+TEST_F(EditorLoadTest, AHiddenFieldComesBackHiddenWithItsWidthKept) {
+    const std::string path = MakeFile("t.dat");
+    TestEditor &editor = Make();
+    Source(3, 2);
+    editor.LoadData(path.c_str(), nullptr, kEditNormal, "");
+    editor.SetColWidth(1, 77);
+    editor.OnChangeColWidth(1, 50, 77);
+    editor.GotoCell(1, 0);
+    editor.OnHideCols();
+    editor.CloseDataSource(false);
+    Source(3, 2);
+    editor.LoadData(path.c_str(), nullptr, kEditNormal, "");
+    EXPECT_EQ("0,2 of 0,1,2", editor.Order());
+    CUIntArray all;
+    for (UINT field : {0u, 1u, 2u})
+        all.Add(field);
+    editor.ReOrderCols(all);
+    int width = 0;
+    editor.GetColWidth(1, &width);
+    EXPECT_EQ(77, width);
+}
+
+TEST_F(EditorLoadTest, NoLayoutIsWrittenForADataFileThatHasVanished) {
+    const std::string path = MakeFile("t.dat");
+    TestEditor &editor = Make();
+    Source(2, 2);
+    editor.LoadData(path.c_str(), nullptr, kEditNormal, "");
+    ::DeleteFileA(path.c_str());
+    editor.CloseDataSource(false);
+    EXPECT_EQ("", Content(PathOf("tdat.@layout"))); // as the look for it at the load left it
+    EXPECT_EQ("", TestApp().TakeBoxes());
+}
+
+TEST_F(EditorLoadTest, ALayoutFileThatCannotBeOpenedIsDoneWithoutAndWithoutAWord) {
+    const std::string path = MakeFile("t.dat");
+    MakeFile("tdat.@layout", "kept");
+    const HANDLE held = ::CreateFileA(PathOf("tdat.@layout").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    TestEditor &editor = Make();
+    Source(2, 2);
+    EXPECT_TRUE(editor.LoadData(path.c_str(), nullptr, kEditNormal, ""));
+    editor.CloseDataSource(false);
+    ::CloseHandle(held);
+    EXPECT_EQ("kept", Content(PathOf("tdat.@layout")));
+    EXPECT_EQ("", TestApp().TakeBoxes());
+}
+
 TEST_F(EditorLoadTest, WithoutAutomaticLayoutNoFileIsTouched) {
     const std::string path = MakeFile("t.dat");
     TestEditor &editor = Make();
