@@ -1,14 +1,9 @@
 // Painting the cells. The state block is read directly and one scratch cell serves all; nothing of a cell is
 // kept from one paint to the next.
 #include "grid/UGCtrl.h"
+#include "grid/UGSmallCellClip.h"
 
 #include <algorithm>
-
-namespace {
-
-constexpr int kSmallCellPx = 10; // lower or narrower cells are drawn clipped
-
-} // namespace
 
 void CUGGrid::DrawAll(CDC *dc, const RECT &clip) {
     HGDIOBJ oldFont = nullptr;
@@ -83,18 +78,12 @@ void CUGGrid::DrawCell(Pass &pass, int col, long row, RECT rect) {
     const bool selected = m_GI->m_multiSelect ? !isCell && m_GI->m_selection.IsSelected(col, row)
                                               : m_GI->m_rowHighlight && currentRow;
     CUGCellType *type = m_ctrl->GetCellType(m_cell.GetCellType());
-    // Signs and frames do not shrink below some pixels: in a small cell they would end up in the ones around.
-    const bool small = rect.right - rect.left < kSmallCellPx || rect.bottom - rect.top < kSmallCellPx;
-    const int saved = small ? ::SaveDC(pass.dc->GetSafeHdc()) : 0;
-    if (small)
-        ::IntersectClipRect(pass.dc->GetSafeHdc(), rect.left, rect.top, rect.right, rect.bottom);
+    const CUGSmallCellClip within(pass.dc, rect);
     type->DrawBorder(pass.dc, &rect, &m_cell);
     m_GI->m_paintCol = col;
     m_GI->m_paintRow = row;
     type->OnDraw(pass.dc, &rect, &m_cell, selected, current);
     m_GI->m_paintCol = -1;
-    if (small)
-        ::RestoreDC(pass.dc->GetSafeHdc(), saved);
 }
 
 // What no cell covers has the back colour of the headings.

@@ -80,6 +80,30 @@ TEST_F(CtrlPaintTest, WithNoRowsOrNoColumnsTheAreaHasTheHeadingsBackAndTheSideHe
     EXPECT_EQ(0, source.m_reads);
 }
 
+TEST_F(CtrlPaintTest, ASmallHeadingCellDrawsNothingIntoTheOnesAround) {
+    Painted(4, 10);
+    m_grid.SetUniformRowHeight(1);
+    m_grid.SetDefaultRowHeight(2);
+    m_grid.Set3DBorderWidth(3); // the frame is wider than the cell is high
+    const HDC dc = ::GetDC(m_grid.SideHeading());
+    const auto pixels = [&] {
+        std::vector<COLORREF> all;
+        for (int y = 0; y < 24; ++y) {
+            for (int x = 0; x < 12; ++x)
+                all.push_back(::GetPixel(dc, x, y));
+        }
+        return all;
+    };
+    m_grid.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    const auto whole = pixels();
+    const RECT oneRow = {0, 8, 50, 10};
+    ::InvalidateRect(m_grid.SideHeading(), &oneRow, FALSE);
+    ::UpdateWindow(m_grid.SideHeading());
+    const auto repainted = pixels();
+    ::ReleaseDC(m_grid.SideHeading(), dc);
+    EXPECT_EQ(whole, repainted);
+}
+
 TEST_F(CtrlPaintTest, MovingTheCurrentCellReadsTheTwoCellsThatChanged) {
     RecordingSource &source = Painted(4, 1000);
     m_grid.GotoCell(1, 5);
