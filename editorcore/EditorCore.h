@@ -328,7 +328,6 @@ private:
     bool SaveRowsToClipboard(long firstRow, long lastRow);
     bool AskForRecords(const char *title, const char *prompt, long *count);
     void ShowRowsOfSource();
-    bool StopRequested();
     long EstimateSelectedText();
     void AppendSelectedTexts(CString &out, bool clearCells, bool *stopped);
     void BlankCells(int left, long top, int right, long bottom);

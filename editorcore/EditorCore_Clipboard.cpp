@@ -59,11 +59,6 @@ private:
 
 } // namespace
 
-// True once when the user or a running check asked for an end.
-bool CEditorCore::StopRequested() {
-    return AbortOperation();
-}
-
 // --- The selection as text
 
 // Characters: the fields' widths, by the rows.
@@ -90,7 +85,7 @@ void CEditorCore::AppendSelectedTexts(CString &out, bool clearCells, bool *stopp
     for (int more = EnumFirstSelected(&col, &row); more == GRID_SUCCESS; more = EnumNextSelected(&col, &row)) {
         if (row < 0)
             continue; // of an empty table's column the selection reaches into the heading
-        if (count % kCellsPerLook == 0 && StopRequested()) {
+        if (count % kCellsPerLook == 0 && AbortOperation()) {
             *stopped = true;
             return;
         }

@@ -41,7 +41,7 @@ int CEditorCore::Paste(CString &text) {
     long lastRow = startRow;
     CString field;
     for (ClipboardText::Reader reader(text); reader.Next();) {
-        if (StopRequested())
+        if (AbortOperation())
             return GRID_ERROR;
         field.SetString(reader.m_begin, static_cast<int>(reader.m_end - reader.m_begin));
         QuickSetText(startCol + reader.m_col, startRow + reader.m_row, field);

@@ -138,7 +138,7 @@ void CFindDlg::EnableWish(bool enable) {
     GetDlgItem(IDOK)->EnableWindow(enable);
 }
 
-// An empty text is a wish for empty cells, and only whole cells can be empty.
+// There is nothing to wish for without a text.
 void CFindDlg::OnTextChanged() {
     EnableWish(GetDlgItem(IDC_FIND_TEXT)->GetWindowTextLength() > 0);
 }
@@ -163,12 +163,14 @@ int CFindDlg::ScopeDirection() const {
 
 void CFindDlg::OnOK() {
     CWnd *editor = m_target();
-    if (editor == nullptr || GetDlgItem(IDC_FIND_TEXT)->GetWindowTextLength() == 0)
+    if (m_running || editor == nullptr || GetDlgItem(IDC_FIND_TEXT)->GetWindowTextLength() == 0)
         return;
     Store();
     m_data.SetData(TextOf(GetDlgItem(IDC_FIND_TEXT)), TextOf(GetDlgItem(IDC_REPLACE_TEXT)),
                    IsDlgButtonChecked(IDC_FIND_CASE) != 0, IsDlgButtonChecked(IDC_FIND_ALL_FIELDS) != 0,
                    ScopeDirection(), static_cast<int>(SendDlgItemMessage(IDC_FIND_MODE, CB_GETCURSEL, 0, 0)),
                    IsDlgButtonChecked(IDC_FIND_REGEX) != 0);
+    m_running = true; // this dialog stays enabled beside the questions of a replacement
     editor->SendMessage(m_message, reinterpret_cast<WPARAM>(&m_data), 0);
+    m_running = false;
 }

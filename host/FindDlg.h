@@ -39,5 +39,6 @@ private:
     Target m_target;
     bool m_replace = false;
     UINT m_message = 0;
+    bool m_running = false; // a wish is at work, perhaps with a question up
     CFindReplaceData m_data;
 };
