@@ -53,6 +53,9 @@ void Table::adopt(std::unique_ptr<TableFile> file, RecordOrder order, RecordOver
     overlay_ = std::move(overlay);
     nextRecord_ = file_->layout().records;
     history_.clear();
+    if (watcher_) {
+        watcher_->recordsRenumbered();
+    }
 }
 
 // Takes hold of the file again that a save had to let go of and could not open afterwards.

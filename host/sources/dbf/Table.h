@@ -30,6 +30,18 @@ struct OpenOptions {
     Date (*today)() = &dbf::today; // the date of last update that saving writes
 };
 
+// Told of what happens to records, which are known by numbers of their own: see Table::recordNumber.
+class RecordWatcher {
+public:
+    // The record holds other values now.
+    virtual void recordChanged(std::uint64_t record) noexcept = 0;
+    // The table was saved or read anew: no number means what it meant before.
+    virtual void recordsRenumbered() noexcept = 0;
+
+protected:
+    ~RecordWatcher() = default;
+};
+
 class Table {
 public:
     using Row = std::uint64_t;
@@ -49,6 +61,17 @@ public:
     const Field &field(std::size_t column) const { return layout().fields[column]; }
     // The column of a name, ignoring the case of ASCII letters; columnCount() when there is none.
     std::size_t findColumn(std::string_view name) const;
+
+    // The code page of all text.
+    int displayCodePage() const { return displayCodePage_; }
+
+    // The record in a row below rowCount(). It keeps its number wherever rows are inserted and removed, when it is
+    // removed and brought back too, until the table is saved. The number is below recordNumberLimit().
+    std::uint64_t recordNumber(Row row) const { return order_.at(row); }
+    std::uint64_t recordNumberLimit() const { return nextRecord_; }
+    // One at a time; borrowed.
+    void watch(RecordWatcher *watcher) { watcher_ = watcher; }
+    void unwatch(const RecordWatcher *watcher) { watcher_ = watcher_ == watcher ? nullptr : watcher_; }
 
     // Empty for a row or column that does not exist.
     std::string cellText(Row row, std::size_t column) const;
@@ -92,6 +115,7 @@ private:
     Result ensureOpen();
     const std::uint8_t *record(std::uint64_t number) const;
     Result prepareChange();
+    void tellChanged(std::uint64_t number) const noexcept;
     void changeBytes(std::uint64_t number, std::size_t offset, const void *bytes, std::size_t width) noexcept;
     void applyBytes(EditHistory::Group &group, const EditHistory::Step &step) noexcept;
 
@@ -116,6 +140,7 @@ private:
     RecordOrder order_;
     RecordOverlay overlay_;
     std::uint64_t nextRecord_ = 0;
+    RecordWatcher *watcher_ = nullptr;
     EditHistory history_;
 };
 

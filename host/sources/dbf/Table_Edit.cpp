@@ -57,12 +57,19 @@ Result Table::setCellText(Row row, std::size_t column, std::string_view text) {
     return Result::success();
 }
 
+void Table::tellChanged(std::uint64_t number) const noexcept {
+    if (watcher_) {
+        watcher_->recordChanged(number);
+    }
+}
+
 // Changes a record that has bytes of its own, the history having room.
 void Table::changeBytes(std::uint64_t number, std::size_t offset, const void *bytes,
                         std::size_t width) noexcept {
     std::uint8_t *place = overlay_.own(number, nullptr) + offset;
     history_.noteBytes(number, offset, place, width);
     std::memcpy(place, bytes, width);
+    tellChanged(number);
 }
 
 Result Table::insertRows(Row row, Row count) {
@@ -104,6 +111,7 @@ Result Table::removeRows(Row row, Row count) {
 void Table::applyBytes(EditHistory::Group &group, const EditHistory::Step &step) noexcept {
     std::uint8_t *place = overlay_.own(step.target, nullptr) + step.offset;
     std::swap_ranges(place, place + step.width, group.bytes.data() + step.position);
+    tellChanged(step.target);
 }
 
 void Table::undo() {

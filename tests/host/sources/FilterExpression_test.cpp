@@ -1,0 +1,173 @@
+// Expressions over records: what they are true for, and how a mistake in one is named.
+#include "DbfBytes.h"
+#include "filter/DbfRecords.h"
+#include "filter/Expression.h"
+#include "filter/Utf8.h"
+
+using namespace dbftest;
+using filter::Expression;
+using filter::Mistake;
+
+namespace {
+
+// The rows that pass, as "0 2 "; or the mistake.
+std::string passing(const dbf::Table &table, const std::string &text) {
+    const filter::DbfRecords records(table);
+    Mistake mistake;
+    const auto expression = Expression::compile(text, records, mistake);
+    if (!expression) {
+        return mistake.text;
+    }
+    std::string rows;
+    const auto outcome = expression->walk(
+        0, table.rowCount(), [&](filter::Row row) { rows += std::to_string(row) + " "; }, {}, mistake);
+    return outcome == Expression::Outcome::done ? rows : mistake.text;
+}
+
+std::string passing(const std::string &text) {
+    MemoryFiles files;
+    return passing(*openBytes(files, people()), text);
+}
+
+// The mistake and the byte where it was noticed.
+std::string mistakeIn(const std::string &text) {
+    MemoryFiles files;
+    const auto table = openBytes(files, people());
+    const filter::DbfRecords records(*table);
+    Mistake mistake;
+    if (Expression::compile(text, records, mistake)) {
+        return "none";
+    }
+    return mistake.text + (mistake.position == Mistake::kNowhere ? "" : " @" + std::to_string(mistake.position));
+}
+
+} // namespace
+
+TEST(FilterExpression, ComparesFieldsAsWhatTheyAre) {
+    EXPECT_EQ(passing("PAY > 1000"), "0 ");
+    EXPECT_EQ(passing("pay < 0 or Name = 'Anna'"), "0 1 ");
+    EXPECT_EQ(passing("NAME like 'a%'"), "0 ");
+    EXPECT_EQ(passing("PAY > '900'"), "0 ") << "a text is a number beside a number";
+    EXPECT_EQ(passing("BORN < '1980-01-01'"), "0 ");
+    EXPECT_EQ(passing("ACTIVE = 'T'"), "0 ");
+    EXPECT_EQ(passing("length(NAME) = 5"), "2 ");
+    EXPECT_EQ(passing("1"), "0 1 2 ");
+    EXPECT_EQ(passing("0"), "");
+    EXPECT_EQ(passing("PAY > 1000 -- the rich"), "0 ");
+}
+
+TEST(FilterExpression, EmptyNumbersDatesAndLogicalsAreNull) {
+    EXPECT_EQ(passing("PAY is null"), "2 ");
+    EXPECT_EQ(passing("BORN is null and ACTIVE is null"), "2 ");
+    EXPECT_EQ(passing("PAY < 0"), "1 ") << "nothing is not less than 0";
+    EXPECT_EQ(passing("NAME is null"), "") << "an empty text is a text";
+}
+
+TEST(FilterExpression, NumbersThatOverflowedAreTexts) {
+    MemoryFiles files;
+    const auto table = openBytes(files, header(0x03, 2, 5, descriptor("N", 'N', 4)) + " ****" + "   17");
+    EXPECT_EQ(passing(*table, "N = 17"), "1 ");
+    EXPECT_EQ(passing(*table, "N = '****'"), "0 ");
+}
+
+TEST(FilterExpression, MistakesAreNamedWhereTheyAre) {
+    EXPECT_EQ(mistakeIn("AGEE >= 15"), "There is no field \"AGEE\". @0");
+    EXPECT_EQ(mistakeIn("NAME = \"Anna\""), "There is no field \"Anna\". Texts stand in single quotes. @7");
+    EXPECT_EQ(mistakeIn("PAY >= "), "The expression is not complete.");
+    EXPECT_EQ(mistakeIn("PAY >= 15) or (1"), "\")\" is not expected here. @9");
+    EXPECT_EQ(mistakeIn("PAY >= 15)"), "\")\" is not expected here. @9");
+    EXPECT_EQ(mistakeIn("(PAY >= 15"), "The expression is not complete.");
+    EXPECT_EQ(mistakeIn("NAME like 'A%"), "The text that begins with 'A% has no closing quote. @10");
+    EXPECT_EQ(mistakeIn("PAY == 1 NAME"), "\"NAME\" is not expected here. @9");
+    EXPECT_EQ(mistakeIn("uppper(NAME) = 'A'"), "There is no function \"uppper\". @0");
+    EXPECT_EQ(mistakeIn("upper(NAME, 2)"), "Wrong number of arguments to function upper(). @0");
+    EXPECT_EQ(mistakeIn("PAY > 1 \\ 2"), "\"\\\" cannot be read. @8");
+    EXPECT_EQ(mistakeIn("count(*) > 1").substr(0, 19), "Misuse of aggregate");
+    EXPECT_EQ(mistakeIn(""), "The expression is empty.");
+    EXPECT_EQ(mistakeIn(" \n"), "The expression is empty.");
+    EXPECT_EQ(mistakeIn("PAY > ?"), "\"?\" stands for no value. @6");
+    EXPECT_EQ(mistakeIn("PAY > :least"), "\":least\" stands for no value. @6");
+    EXPECT_EQ(mistakeIn(std::string("PAY\0 > 1", 8)), "The expression holds a character that cannot be read. @3");
+}
+
+TEST(FilterExpression, OneRecordIsLookedAtAndNothingElse) {
+    const std::string oneOnly =
+        "A filter looks at one record at a time; it cannot hold a SELECT or a record's place.";
+    EXPECT_EQ(mistakeIn("PAY > (select max(PAY) from records)"), oneOnly);
+    EXPECT_EQ(mistakeIn("exists (select 1)"), oneOnly);
+    EXPECT_EQ(mistakeIn("rowid > 1"), oneOnly);
+    EXPECT_EQ(mistakeIn("oid > 1"), oneOnly);
+    EXPECT_EQ(mistakeIn("1) union select (1").substr(0, 3), "\")\"");
+    EXPECT_EQ(mistakeIn("1) limit (1"), "\")\" is not expected here. @1");
+    EXPECT_EQ(mistakeIn("1 order by NAME"), "\"order\" is not expected here. @2");
+    EXPECT_EQ(mistakeIn("1 limit 1"), "\"limit\" is not expected here. @2");
+    EXPECT_NE(mistakeIn("1; drop table records"), "none");
+    EXPECT_NE(mistakeIn("1;"), "none");
+}
+
+TEST(FilterExpression, AFieldMayBeCalledLikeARecordsPlaceOrLikeAKeyword) {
+    MemoryFiles files;
+    const auto table =
+        openBytes(files, header(0x03, 2, 7, descriptor("ROWID", 'N', 3) + descriptor("ORDER", 'N', 3)) + "   1  5" + "   9  6");
+    EXPECT_EQ(passing(*table, "ROWID = 9"), "1 ");
+    EXPECT_EQ(passing(*table, "\"ORDER\" = 5"), "0 ");
+    EXPECT_EQ(filter::nameInExpression("ORDER"), "\"ORDER\"");
+    EXPECT_EQ(filter::nameInExpression("NAME_2"), "NAME_2");
+    EXPECT_EQ(filter::nameInExpression("2ND"), "\"2ND\"");
+    EXPECT_EQ(filter::nameInExpression("A\"B"), "\"A\"\"B\"");
+    EXPECT_EQ(filter::nameInExpression(""), "\"\"");
+}
+
+TEST(FilterExpression, FieldsOfTheSameNameCanAllBeAskedFor) {
+    MemoryFiles files;
+    const auto table =
+        openBytes(files, header(0x03, 1, 7, descriptor("A", 'N', 3) + descriptor("a", 'N', 3)) + "   1  5");
+    EXPECT_EQ(passing(*table, "A = 1 and \"a#\" = 5"), "0 ");
+}
+
+TEST(FilterExpression, DepthAndLengthHaveBounds) {
+    std::string deep;
+    for (int i = 0; i < 5000; ++i) {
+        deep += "not ";
+    }
+    EXPECT_EQ(mistakeIn(deep + "1"), "Expression tree is too large (maximum depth 200).");
+    EXPECT_EQ(passing("length(zeroblob(100000000)) > 1"), "String or blob too big.");
+    EXPECT_EQ(passing("abs(-9223372036854775807 - 1) > 1"), "Integer overflow.");
+}
+
+TEST(FilterExpression, AWalkCanBeStopped) {
+    MemoryFiles files;
+    const auto table = openBytes(files, header(0x03, 10000, 2, descriptor("A", 'C', 1)) + std::string(20000, ' '));
+    const filter::DbfRecords records(*table);
+    Mistake mistake;
+    const auto expression = Expression::compile("1", records, mistake);
+    ASSERT_TRUE(expression);
+    filter::Row asked = 0, passed = 0;
+    const auto walk = [&](const filter::GoOn &goOn) {
+        passed = 0;
+        return expression->walk(0, 10000, [&](filter::Row) { ++passed; }, goOn, mistake);
+    };
+    EXPECT_EQ(walk([&](filter::Row done) { asked = done; return false; }), Expression::Outcome::stopped);
+    EXPECT_LT(passed, 10000u);
+    EXPECT_EQ(asked, passed);
+    EXPECT_EQ(mistake.text, "");
+    EXPECT_EQ(walk([](filter::Row) { return true; }), Expression::Outcome::done);
+    EXPECT_EQ(passed, 10000u);
+}
+
+TEST(FilterText, GoesToUtf8AndBack) {
+    const dbf::CodePage *western = dbf::findCodePage(1252);
+    EXPECT_EQ(filter::toUtf8("M\xFCller \x80", western), "M\xC3\xBCller \xE2\x82\xAC");
+    EXPECT_EQ(filter::fromUtf8("M\xC3\xBCller \xE2\x82\xAC", western), "M\xFCller \x80");
+    EXPECT_EQ(filter::fromUtf8("\xCE\xA9|\xF0\x9F\x98\x80|\xE2", western), "?|?|?");
+    EXPECT_EQ(filter::toUtf8("a\xFC", nullptr), "a?");
+    EXPECT_EQ(filter::fromUtf8("a\xC3\xBC", nullptr), "a?");
+    EXPECT_EQ(filter::charactersBefore("M\xC3\xBCller", 3), 2u);
+}
+
+TEST(FilterExpression, LettersBeyondAsciiCompareAsTheyAreShown) {
+    MemoryFiles files;
+    const auto table = openBytes(files, header(0x03, 1, 7, descriptor("NAME", 'C', 6), 3) + " M\xFCller");
+    EXPECT_EQ(passing(*table, "NAME = 'M\xC3\xBCller' and length(NAME) = 6"), "0 ");
+    EXPECT_EQ(passing(*table, "NAME like 'm_ller'"), "0 ");
+}
