@@ -3,11 +3,11 @@
 #include "grid/UGDefine.h"
 
 #include <algorithm>
-#include <utility>
 #include <cctype>
+#include <charconv>
 #include <limits>
-#include <new>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -19,6 +19,18 @@ bool asksForViewing(const char *options) {
         text.remove_suffix(1);
     }
     return text.ends_with("-view");
+}
+
+// The number behind "-filter ", -1 when there is none.
+int filterIn(const char *options) {
+    constexpr std::string_view kSwitch = "-filter ";
+    const std::string_view text = options ? options : "";
+    const std::size_t place = text.rfind(kSwitch);
+    int number = -1;
+    if (place != std::string_view::npos) {
+        std::from_chars(text.data() + place + kSwitch.size(), text.data() + text.size(), number);
+    }
+    return number;
 }
 
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
@@ -80,19 +92,6 @@ void CDbfDataSource::Tell(const std::string &message) const {
     }
 }
 
-// Runs work that answers a result code. No exception leaves, since the callers stand in window procedures.
-template <class Work> int CDbfDataSource::Guarded(Work work) const {
-    try {
-        return work();
-    } catch (const std::bad_alloc &) {
-        Tell(m_lowMemory);
-    } catch (CMemoryException *e) { // what a failing allocation throws once the framework is loaded
-        e->Delete();
-        Tell(m_lowMemory);
-    }
-    return GRID_ERROR;
-}
-
 // Runs a change of the table and tells of its failure.
 template <class Change> int CDbfDataSource::Carry(Change change) {
     if (!m_table) {
@@ -100,7 +99,7 @@ template <class Change> int CDbfDataSource::Carry(Change change) {
     }
     return Guarded([&]() -> int {
         const dbf::Result result = change(*m_table);
-        if (!result) {
+        if (!result && !result.message.empty()) {
             Tell(result.message);
         }
         return result ? GRID_SUCCESS : GRID_ERROR;
@@ -121,6 +120,13 @@ int CDbfDataSource::Open(const char *name, const char *options) {
             Tell(opened.message);
             return GRID_ERROR;
         }
+        const int number = filterIn(options);
+        std::unique_ptr<filter::RecordFilter> filter = number < 0 ? nullptr : MakeFilter(*table, number);
+        if (number >= 0 && !filter) {
+            return GRID_ERROR;
+        }
+        m_filter = std::move(filter); // the old one's table is still there
+        m_filterNumber = number;
         m_table = std::move(table);
         m_findNext = 0;
         TellWarnings();
@@ -142,6 +148,7 @@ int CDbfDataSource::Close(bool force) {
     if (m_table && m_table->canUndo() && !force && m_hooks.mayClose && !m_hooks.mayClose(*this)) {
         return GRID_ERROR;
     }
+    m_filter.reset();
     m_table.reset();
     return GRID_SUCCESS;
 }
@@ -157,11 +164,27 @@ int CDbfDataSource::Save() {
     });
 }
 
-int CDbfDataSource::SaveAs(const char *name, const char *) {
-    return Carry([this, name](dbf::Table &table) {
-        const bool overwrite = table.path() == name && table.isForeign() && m_hooks.mayOverwrite &&
-                               m_hooks.mayOverwrite(table.path());
-        return table.saveAs(name, {}, overwrite);
+int CDbfDataSource::SaveAs(const char *name, const char *options) {
+    return Carry([=, this](dbf::Table &table) {
+        const int number = filterIn(options);
+        if (number >= 0 && (!m_filter || number != m_filterNumber) && AttachFilter(number) != GRID_SUCCESS) {
+            return dbf::Result::failure({}); // told already
+        }
+        const std::string before = table.path();
+        const bool overwrite =
+            before == name && table.isForeign() && m_hooks.mayOverwrite && m_hooks.mayOverwrite(before);
+        dbf::Table::RowPredicate keep;
+        if (number >= 0) {
+            keep = [this](dbf::Table::Row row) {
+                bool known = false;
+                return m_filter->passes(row, known) || !known;
+            };
+        }
+        const dbf::Result saved = table.saveAs(name, keep, overwrite);
+        if (saved) {
+            TakeFiltersAlong(before, name);
+        }
+        return saved;
     });
 }
 
@@ -239,10 +262,10 @@ int CDbfDataSource::DeleteRows(long row, long count) {
     if (row >= 0 && count < 1) {
         return GRID_SUCCESS;
     }
-    if (row < 0) { // the filtered records, of which there are none without a filter
-        return GRID_ERROR;
-    }
-    return Carry([=](dbf::Table &table) {
+    return Carry([=, this](dbf::Table &table) {
+        if (row < 0) {
+            return RemovePassing(table);
+        }
         return table.removeRows(static_cast<dbf::Table::Row>(row), static_cast<dbf::Table::Row>(count));
     });
 }
@@ -323,13 +346,27 @@ int CDbfDataSource::FindNext(int col, const char *text, long *row) {
     return Guarded([&] { return FindFrom(m_findNext, col, text, row); });
 }
 
-int CDbfDataSource::GetOption(int option, void *value1, void *) {
+int CDbfDataSource::GetOption(int option, void *value1, void *value2) {
     if (!m_table) {
         return GRID_ERROR;
     }
     switch (option) {
     case UGSRC_PATH: **static_cast<CString **>(value1) = m_table->path().c_str(); return GRID_SUCCESS;
     case UGSRC_WRITABLE: *static_cast<int *>(value1) = m_table->isWritable() ? 1 : 0; return GRID_SUCCESS;
+    case UGSRC_PASSES_FILTER:
+        return AskFilter(*static_cast<const long *>(value1), static_cast<int *>(value2));
+    default: return GRID_NOT_IMPLEMENTED;
+    }
+}
+
+int CDbfDataSource::SetOption(int option, long value1, long) {
+    if (!m_table) {
+        return GRID_ERROR;
+    }
+    switch (option) {
+    case UGSRC_ATTACH_FILTER: return AttachFilter(static_cast<int>(value1));
+    case UGSRC_DETACH_FILTER: m_filter.reset(); return GRID_SUCCESS;
+    case UGSRC_ONLY_FILTERED: return GRID_SUCCESS;
     default: return GRID_NOT_IMPLEMENTED;
     }
 }

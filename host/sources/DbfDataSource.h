@@ -4,10 +4,12 @@
 #pragma once
 
 #include "dbf/Table.h"
+#include "filter/RecordFilter.h"
 #include "grid/UGDataSource.h"
 
 #include <functional>
 #include <memory>
+#include <new>
 #include <string>
 
 class CDbfDataSource : public CUGDataSource {
@@ -24,6 +26,8 @@ public:
         std::function<bool(CDbfDataSource &)> mayClose;
         // Somebody else changed the file since it was read. True overwrites it. Empty: it is not overwritten.
         std::function<bool(const std::string &path)> mayOverwrite;
+        // A filter is being worked out: records done, and all of them. False stops it. Called every few thousand.
+        std::function<bool(std::uint64_t done, std::uint64_t all)> progress;
     };
 
     // What GetColType answers.
@@ -47,10 +51,13 @@ public:
     // Null while no table is open.
     const dbf::Table *GetTable() const { return m_table.get(); }
 
-    // Options ending in "-view " open for viewing only; the table's name in them means nothing here.
+    // Options ending in "-view " open for viewing only, and "-filter 3" attaches a filter; without that filter
+    // nothing is opened. The table's name in them means nothing here.
     int Open(const char *name, const char *options) override;
     int Close(bool force) override;
     int Save() override;
+    // With "-filter 3" in the options only the records that pass are written, and remain. The list of filters goes
+    // along with the table where there is none yet.
     int SaveAs(const char *name, const char *options) override;
 
     long GetNumRows() override;
@@ -64,6 +71,7 @@ public:
     int InsertRow(long row) override;
     int DeleteRow(long row) override;
     int InsertRows(long row, long count) override;
+    // The row -1 means the records that pass the attached filter.
     int DeleteRows(long row, long count) override;
 
     // Sets the text, and the read-only mark where the field is only shown; column -1 is the record's number. How
@@ -75,7 +83,11 @@ public:
     int FindNext(int col, const char *text, long *row) override;
 
     // UGSRC_PATH: value1 points to a pointer to a CString, which receives the path. UGSRC_WRITABLE: see CUGDataSource.
+    // UGSRC_PASSES_FILTER costs a look into a bitmap; it is refused without a filter and beyond the last record.
     int GetOption(int option, void *value1, void *value2) override;
+    // UGSRC_ATTACH_FILTER evaluates the filter of this number for every record, and tells why it cannot: then the one
+    // attached before stays. Rows are never hidden, so that UGSRC_ONLY_FILTERED is only taken note of.
+    int SetOption(int option, long value1, long value2) override;
 
     // Values that are refused in between are told of once, at the end.
     void StartTransaction() override;
@@ -89,6 +101,11 @@ private:
     template <class Work> int Guarded(Work work) const;
     template <class Change> int Carry(Change change);
     template <class Step> void Travel(Step step);
+    std::unique_ptr<filter::RecordFilter> MakeFilter(dbf::Table &table, int number) const;
+    int AttachFilter(int number);
+    int AskFilter(long record, int *passes);
+    dbf::Result RemovePassing(dbf::Table &table);
+    void TakeFiltersAlong(const std::string &from, const std::string &to) const;
     const dbf::Field *FieldAt(int col) const;
     int FindFrom(dbf::Table::Row row, int col, const char *text, long *found);
     void Tell(const std::string &message) const;
@@ -97,9 +114,24 @@ private:
 
     Hooks m_hooks;
     std::unique_ptr<dbf::Table> m_table;
+    std::unique_ptr<filter::RecordFilter> m_filter; // borrows the table
+    int m_filterNumber = -1;
     bool m_inTransaction = false;
     long m_refused = 0;     // values refused in the transaction,
     std::string m_refusal;  // and why the first of them was
     dbf::Table::Row m_findNext = 0; // where FindNext goes on
     const std::string m_lowMemory = "Low memory - cannot carry out operation!";
 };
+
+// Runs work that answers a result code. No exception leaves, since the callers stand in window procedures.
+template <class Work> int CDbfDataSource::Guarded(Work work) const {
+    try {
+        return work();
+    } catch (const std::bad_alloc &) {
+        Tell(m_lowMemory);
+    } catch (CMemoryException *e) { // what a failing allocation throws once the framework is loaded
+        e->Delete();
+        Tell(m_lowMemory);
+    }
+    return GRID_ERROR;
+}

@@ -1,6 +1,7 @@
 // The table as the grid sees it, on real files.
 #include "DbfBytes.h"
 #include "DbfDataSource.h"
+#include "filter/FilterList.h"
 #include "grid/UGDefine.h"
 
 #include <cstdio>
@@ -21,6 +22,26 @@ protected:
     void TearDown() override {
         source.Close(true);
         std::remove(path.c_str());
+        std::remove(filter::FilterList::pathBeside(path).c_str());
+    }
+
+    // Puts a filter into the list beside the table.
+    void define(int number, const std::string &expression) {
+        const std::string list = filter::FilterList::pathBeside(path);
+        filter::FilterList filters;
+        ASSERT_TRUE(filters.load(list, nullptr));
+        filters.put({number, "mine", expression});
+        ASSERT_TRUE(filters.save(list, nullptr));
+    }
+    // One character a record: + passes, - fails, ? no answer.
+    std::string passing() {
+        std::string text;
+        for (long record = 1; record <= source.GetNumRows(); ++record) {
+            int passes = -1;
+            const bool answered = source.GetOption(UGSRC_PASSES_FILTER, &record, &passes) == 0;
+            text += answered ? passes == 1 ? '+' : '-' : '?';
+        }
+        return text;
     }
 
     void write(const std::string &bytes) { std::ofstream(path, std::ios::binary) << bytes; }
@@ -46,6 +67,7 @@ protected:
     CDbfDataSource source{{[this](const std::string &message) { told += message + "|"; },
                            [this] { ++rowsChanged; },
                            [this](CDbfDataSource &) { return mayClose; },
+                           {},
                            {}}};
 };
 
@@ -273,4 +295,105 @@ TEST_F(DbfDataSource, AsksBeforeItLosesChanges) {
     source.Undo();
     EXPECT_EQ(source.Close(false), 0);
     EXPECT_EQ(source.GetNumRows(), -1);
+}
+
+TEST_F(DbfDataSource, AttachesFiltersByNumberAndDetachesThem) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    EXPECT_EQ(passing(), "???") << "no test is possible without a filter";
+    EXPECT_NE(source.SetOption(UGSRC_ATTACH_FILTER, 0, 0), 0);
+    EXPECT_EQ(std::exchange(told, ""), "The default filter of \"" + path + "\" has not been made yet.|");
+    define(0, "PAY > 0");
+    define(4, "NAME > 'B'");
+    EXPECT_EQ(source.SetOption(UGSRC_ATTACH_FILTER, 0, 0), 0);
+    EXPECT_EQ(passing(), "+--");
+    EXPECT_EQ(source.SetOption(UGSRC_ATTACH_FILTER, 4, 0), 0);
+    EXPECT_EQ(passing(), "-++");
+    EXPECT_EQ(source.SetOption(UGSRC_ONLY_FILTERED, 1, 0), 0);
+    EXPECT_EQ(source.GetNumRows(), 3);
+    EXPECT_EQ(source.SetOption(UGSRC_DETACH_FILTER, 0, 0), 0);
+    EXPECT_EQ(passing(), "???");
+    EXPECT_EQ(source.SetOption(3, 0, 0), GRID_NOT_IMPLEMENTED);
+    EXPECT_EQ(told, "");
+}
+
+TEST_F(DbfDataSource, AFilterThatCannotBeUsedLeavesTheOneBefore) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    define(1, "PAY > 0");
+    define(2, "PAID > 0");
+    EXPECT_EQ(source.SetOption(UGSRC_ATTACH_FILTER, 1, 0), 0);
+    EXPECT_NE(source.SetOption(UGSRC_ATTACH_FILTER, 2, 0), 0);
+    EXPECT_EQ(std::exchange(told, ""), "Filter 2 \"mine\" cannot be used:\n\nPAID > 0\n\nThere is no field \"PAID\".|");
+    EXPECT_EQ(passing(), "+--");
+    set(1, 2, "7");
+    EXPECT_EQ(passing(), "+-+") << "still kept up to date";
+    std::ofstream(filter::FilterList::pathBeside(path), std::ios::binary | std::ios::trunc) << "no list";
+    EXPECT_NE(source.SetOption(UGSRC_ATTACH_FILTER, 1, 0), 0);
+    EXPECT_NE(told.find("cannot be read"), std::string::npos) << told;
+    EXPECT_EQ(passing(), "+-+");
+}
+
+TEST_F(DbfDataSource, TheFilterFollowsEditsUndoAndRedo) {
+    define(0, "PAY > 0");
+    ASSERT_EQ(source.Open(path.c_str(), "-filter 0"), 0);
+    EXPECT_EQ(passing(), "+--");
+    set(1, 1, "3");
+    source.InsertRows(0, 1);
+    EXPECT_EQ(passing(), "-++-");
+    source.Undo();
+    EXPECT_EQ(passing(), "+--");
+    source.Redo();
+    EXPECT_EQ(passing(), "-++-");
+    ASSERT_EQ(source.Save(), 0);
+    EXPECT_EQ(passing(), "-++-");
+}
+
+TEST_F(DbfDataSource, OpensWithAFilterOrNotAtAll) {
+    EXPECT_NE(source.Open(path.c_str(), "-filter 3"), 0);
+    EXPECT_EQ(std::exchange(told, ""), "Filter 3 of \"" + path + "\" has not been made yet.|");
+    EXPECT_EQ(source.GetNumRows(), -1);
+    define(3, "ACTIVE = 'F'");
+    ASSERT_EQ(source.Open(path.c_str(), "-table t -filter 3"), 0);
+    EXPECT_EQ(passing(), "-+-");
+}
+
+TEST_F(DbfDataSource, DeletesTheFilteredRecordsAsOneStep) {
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    EXPECT_NE(source.DeleteRows(-1, -1), 0);
+    EXPECT_EQ(std::exchange(told, ""), "There is no filter whose records could be deleted|");
+    define(0, "PAY is null or PAY > 0");
+    ASSERT_EQ(source.SetOption(UGSRC_ATTACH_FILTER, 0, 0), 0);
+    ASSERT_EQ(source.DeleteRows(-1, -1), 0);
+    EXPECT_EQ(source.GetNumRows(), 1);
+    EXPECT_EQ(cell(0, 0), "Bert");
+    source.Undo();
+    EXPECT_EQ(source.GetNumRows(), 3);
+    EXPECT_EQ(passing(), "+-+");
+    EXPECT_FALSE(source.CanUndo());
+}
+
+TEST_F(DbfDataSource, SavesOnlyTheFilteredRecordsUnderAnotherName) {
+    const std::string other = path + ".other.dbf";
+    define(2, "NAME > 'B'");
+    ASSERT_EQ(source.Open(path.c_str(), "-filter 2"), 0);
+    set(0, 2, "Carola");
+    ASSERT_EQ(source.SaveAs(other.c_str(), " -filter 2"), 0);
+    EXPECT_EQ(source.GetNumRows(), 2);
+    EXPECT_EQ(cell(0, 0) + cell(0, 1), "BertCarola");
+    EXPECT_EQ(passing(), "++");
+    source.Close(true);
+    ASSERT_EQ(source.Open(other.c_str(), "-filter 2"), 0) << "the list went along";
+    EXPECT_EQ(passing(), "++");
+    source.Close(true);
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    EXPECT_EQ(source.GetNumRows(), 3) << "the old file is as it was";
+    std::remove(other.c_str());
+    std::remove(filter::FilterList::pathBeside(other).c_str());
+}
+
+TEST_F(DbfDataSource, ASaveWithAFilterThatCannotBeUsedWritesNothing) {
+    const std::string other = path + ".other.dbf";
+    ASSERT_EQ(source.Open(path.c_str(), ""), 0);
+    EXPECT_NE(source.SaveAs(other.c_str(), "-filter 9"), 0);
+    EXPECT_EQ(told, "Filter 9 of \"" + path + "\" has not been made yet.|");
+    EXPECT_EQ(read(other), "");
 }
