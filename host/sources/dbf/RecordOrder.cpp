@@ -1,5 +1,7 @@
 #include "RecordOrder.h"
 
+#include <algorithm>
+
 namespace dbf {
 
 struct RecordOrder::Node {
@@ -91,7 +93,7 @@ RecordOrder::Node *RecordOrder::merge(Node *left, Node *right) noexcept {
     return right;
 }
 
-// The first `rows` rows and the others. Cuts a run in two with the help of a spare node.
+// The first `rows` rows and the others; a run begins there.
 std::pair<RecordOrder::Node *, RecordOrder::Node *> RecordOrder::split(Node *node, Row rows) noexcept {
     if (!node) {
         return {nullptr, nullptr};
@@ -103,18 +105,45 @@ std::pair<RecordOrder::Node *, RecordOrder::Node *> RecordOrder::split(Node *nod
         update(node);
         return {low, node};
     }
-    const Row within = rows - before;
-    if (within >= node->count) {
-        const auto [low, high] = split(node->right, within - node->count);
-        node->right = low;
-        update(node);
-        return {node, high};
-    }
-    Node *rest = spareNode(node->first + within, node->count - within);
-    Node *after = std::exchange(node->right, nullptr);
-    node->count = within;
+    const auto [low, high] = split(node->right, rows - before - node->count);
+    node->right = low;
     update(node);
-    return {node, merge(rest, after)};
+    return {node, high};
+}
+
+// Makes a run begin at `row`, with a spare node where one goes across it. The new run comes in like any other: one that
+// stayed in its old run's place would have a priority that does not fit there, and the tree would grow into a list.
+void RecordOrder::cutAt(Row row) noexcept {
+    if (row == 0 || row >= size()) {
+        return;
+    }
+    const Record record = at(row);
+    const Row count = cachedRow_ + cachedCount_ - row;
+    if (cachedRow_ == row) {
+        return;
+    }
+    shortenRunAt(row, count);
+    const auto [low, high] = split(root_, row);
+    root_ = merge(merge(low, spareNode(record, count)), high);
+    cachedCount_ = 0;
+}
+
+// Takes the last `count` rows off the run that holds `row`.
+void RecordOrder::shortenRunAt(Row row, Row count) noexcept {
+    Node *node = root_;
+    for (;;) {
+        node->total -= count;
+        const Row before = total(node->left);
+        if (row < before) {
+            node = node->left;
+        } else if (row - before < node->count) {
+            node->count -= count;
+            return;
+        } else {
+            row -= before + node->count;
+            node = node->right;
+        }
+    }
 }
 
 RecordOrder::Record RecordOrder::at(Row row) const {
@@ -148,6 +177,10 @@ std::size_t RecordOrder::runs() const {
     return count;
 }
 
+std::size_t RecordOrder::depthOf(const Node *node) {
+    return node ? 1 + std::max(depthOf(node->left), depthOf(node->right)) : 0;
+}
+
 bool RecordOrder::endsRunBefore(Row row, Record record) const {
     return row > 0 && at(row - 1) + 1 == record && cachedRow_ + cachedCount_ == row;
 }
@@ -178,6 +211,7 @@ void RecordOrder::insert(Row row, Record first, Row count) {
     if (endsRunBefore(row, first)) {
         lengthenRunBefore(row, count);
     } else {
+        cutAt(row);
         const auto [low, high] = split(root_, row);
         root_ = merge(merge(low, spareNode(first, count)), high);
     }
@@ -186,6 +220,8 @@ void RecordOrder::insert(Row row, Record first, Row count) {
 
 RecordOrder::Piece RecordOrder::take(Row row, Row count) {
     reserve(1);
+    cutAt(row);
+    cutAt(row + count);
     const auto [low, rest] = split(root_, row);
     const auto [taken, high] = split(rest, count);
     root_ = merge(low, high);
@@ -195,6 +231,7 @@ RecordOrder::Piece RecordOrder::take(Row row, Row count) {
 
 void RecordOrder::put(Row row, Piece piece) {
     reserve(1);
+    cutAt(row);
     const auto [low, high] = split(root_, row);
     root_ = merge(merge(low, std::exchange(piece.root_, nullptr)), high);
     cachedCount_ = 0;

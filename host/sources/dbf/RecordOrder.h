@@ -49,6 +49,8 @@ public:
     Record at(Row row) const;
     // How many runs the order consists of.
     std::size_t runs() const;
+    // How many nodes lie one above the other at most: a small multiple of the logarithm of runs().
+    std::size_t depth() const { return depthOf(root_); }
 
     // The next `operations` changes cannot fail for want of memory. Each change else either happens or throws
     // std::bad_alloc and leaves everything as it was.
@@ -66,6 +68,9 @@ private:
     static void update(Node *node) noexcept;
     static Node *merge(Node *left, Node *right) noexcept;
     std::pair<Node *, Node *> split(Node *node, Row rows) noexcept;
+    void cutAt(Row row) noexcept;
+    void shortenRunAt(Row row, Row count) noexcept;
+    static std::size_t depthOf(const Node *node);
     bool endsRunBefore(Row row, Record record) const;
     void lengthenRunBefore(Row row, Row count) noexcept;
     Node *spareNode(Record first, Row count) noexcept;

@@ -103,3 +103,20 @@ TEST(RecordOrder, StaysShallowUnderManyChanges) {
     EXPECT_EQ(order.size(), 10'000'000u);
     EXPECT_GT(order.runs(), 200'000u);
 }
+
+// Rows taken out of one run, from the end, from the start or in any order, once made a list of it.
+TEST(RecordOrder, StaysShallowWhereverRowsAreTakenAndInserted) {
+    constexpr RecordOrder::Row kRows = 20000;
+    RecordOrder fromEnd(kRows), fromStart(kRows), anywhere(kRows), inserted(kRows);
+    std::mt19937 random(5);
+    for (RecordOrder::Row i = 1; i <= kRows / 2; ++i) {
+        fromEnd.take(kRows - 2 * i, 1);
+        fromStart.take(i, 1);
+        anywhere.take(random() % anywhere.size(), 1);
+        inserted.insert(2 * i, kRows + 2 * i, 1);
+    }
+    for (const RecordOrder *order : {&fromEnd, &fromStart, &anywhere, &inserted}) {
+        EXPECT_GT(order->runs(), 4000u);
+        EXPECT_LT(order->depth(), 60u) << order->runs() << " runs";
+    }
+}
