@@ -42,6 +42,7 @@ TEST(RequiredText, TheLongestRunThatEveryMatchHolds) {
     EXPECT_EQ("wor", RequiredText("wor?wor"));
     EXPECT_EQ("abc", RequiredText("abc+de*"));
     EXPECT_EQ("cat", RequiredText("\\A(?<_before>.*?)(?<!\\w)(cat)(?!\\w)(?<_after>.*)"));
+    EXPECT_EQ("cat", RequiredText("\\`\\<cat\\>\\'"));
 }
 
 TEST(RequiredText, WhereTheMeaningIsNotPlainThereIsNone) {
