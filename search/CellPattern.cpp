@@ -73,8 +73,10 @@ bool CellPattern::ReplaceFirst(const std::string &text, const std::string &forma
         boost::smatch match;
         if (!boost::regex_search(text, match, m_compiled->regex))
             return false;
-        boost::regex_replace(std::back_inserter(*replaced), text.begin(), text.end(), m_compiled->regex, format,
-                             boost::regex_constants::format_first_only);
+        replaced->assign(text.begin(), match[0].first);
+        match.format(std::back_inserter(*replaced), format, boost::regex_constants::format_first_only,
+                     m_compiled->regex);
+        replaced->append(match[0].second, text.end());
         return true;
     } catch (const std::runtime_error &) {
         replaced->clear();
