@@ -15,7 +15,7 @@
 
 namespace Search {
 
-class PatternScreen {
+class ORVANE_API PatternScreen {
 public:
     // `pattern` is one that compiles.
     PatternScreen(const std::string &pattern, bool matchCase);

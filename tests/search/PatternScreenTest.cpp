@@ -212,7 +212,6 @@ TEST(PatternScreen, TheAnswerIsTheExpressionsForRandomPatternsAndTexts) {
     EXPECT_GT(known * 2, compiled);
     EXPECT_GT(matches, compiled);
     EXPECT_GT(screened, compiled);
-    std::printf("%d compiled, %d known, %d matches, %d screened\n", compiled, known, matches, screened);
 }
 
 } // namespace
