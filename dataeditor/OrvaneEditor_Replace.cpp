@@ -111,13 +111,12 @@ bool COrvaneEditor::ReplaceCellStringIfMatch(int col, long row, const char *find
         const std::string tail = text.substr(static_cast<size_t>(offset));
         std::string newText;
         const Search::CellPattern &tried = PatternOf(pattern.c_str(), matchCase);
-        *matched = tried.Matches(tail);
+        *matched = tried.Matches(tail) && tried.ReplaceFirst(tail, replace, &newText);
         if (!*matched) {
             *replaced = false;
             *matched = offset > 0;
             return true;
         }
-        tried.ReplaceFirst(tail, replace, &newText);
         *replaced = all;
         if (!all && !AskToReplace(col, row, text, newText, answer, replaced, &all))
             return false;
