@@ -52,7 +52,10 @@ public:
     void SetEditorTitle(const char *path, const char *table, CEditorCore *editor) override;
     void OnGridHotKey() override { m_log->Note("HotKey"); }
     void GetAppTitle(CString &title) override { title = "Test"; }
-    int CheckAbort() override { return m_abort; }
+    int CheckAbort() override {
+        ++m_looks;
+        return m_abortAtLook > 0 && m_looks >= m_abortAtLook ? 1 : m_abort;
+    }
     // The sources of m_sources in turn, then null.
     CUGDataSource *CreateDataSource(const char *path) override;
     bool PromptSaveAs(CString &name, bool *useFiltered, bool attached) override {
@@ -83,6 +86,8 @@ public:
     RecordingOptions m_options;
     std::deque<CUGDataSource *> m_sources;
     int m_abort = 0;
+    long m_looks = 0;       // CheckAbort calls
+    long m_abortAtLook = 0; // from this one on the answer is to stop; 0 for m_abort alone
     std::function<void(CEditorCore *)> m_onTitle;
     std::function<bool(CStringArray *)> m_onOrder;
     std::function<bool(CString &, bool *, bool)> m_onSaveAs;
