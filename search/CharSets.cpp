@@ -4,31 +4,48 @@
 
 namespace Search {
 
-CharSet CharSets::Of(char literal) const {
-    const boost::regex_traits<char> traits;
-    CharSet set;
-    for (size_t c = 0; c < set.size(); ++c)
-        set[c] =
-            traits.translate(static_cast<char>(c), !m_matchCase) == traits.translate(literal, !m_matchCase);
-    return set;
-}
+namespace {
 
 // Asking the library character by character takes some microseconds once, and leaves nothing to know about
 // its classes.
-const CharSet &CharSets::Of(const std::string &expression) {
-    const auto [known, isNew] = m_known.try_emplace(expression);
-    if (!isNew)
-        return known->second;
+CharSet Ask(const std::string &expression, boost::regex::flag_type flags) {
+    CharSet set;
     try {
-        const boost::regex regex(expression,
-                                 m_matchCase ? boost::regex::perl : boost::regex::perl | boost::regex::icase);
-        for (size_t c = 0; c < known->second.size(); ++c) {
+        const boost::regex regex(expression, flags);
+        for (size_t c = 0; c < set.size(); ++c) {
             const char text = static_cast<char>(c);
-            known->second[c] = boost::regex_match(&text, &text + 1, regex);
+            set[c] = boost::regex_match(&text, &text + 1, regex);
         }
     } catch (const boost::regex_error &) {
-        known->second.reset();
+        set.reset();
     }
+    return set;
+}
+
+} // namespace
+
+void CharSets::TakeBoth() {
+    m_withCase = m_withoutCase = true;
+    m_known.clear();
+}
+
+CharSet CharSets::Of(char literal) const {
+    const boost::regex_traits<char> traits;
+    CharSet set;
+    for (size_t c = 0; c < set.size(); ++c) {
+        set[c] = static_cast<char>(c) == literal ||
+                 (m_withoutCase &&
+                  traits.translate_nocase(static_cast<char>(c)) == traits.translate_nocase(literal));
+    }
+    return set;
+}
+
+const CharSet &CharSets::Of(const std::string &expression) {
+    const auto [known, isNew] = m_known.try_emplace(expression);
+    if (isNew && m_withCase)
+        known->second = Ask(expression, boost::regex::perl);
+    if (isNew && m_withoutCase)
+        known->second |= Ask(expression, boost::regex::perl | boost::regex::icase);
     return known->second;
 }
 

@@ -11,7 +11,9 @@ using CharSet = std::bitset<256>; // by the character's byte
 
 class CharSets {
 public:
-    explicit CharSets(bool matchCase) : m_matchCase(matchCase) {}
+    explicit CharSets(bool matchCase) : m_withCase(matchCase), m_withoutCase(!matchCase) {}
+    // From now on a set holds what fits in either case; for patterns that change between the two.
+    void TakeBoth();
 
     // The characters that a literal one fits.
     CharSet Of(char literal) const;
@@ -20,7 +22,7 @@ public:
     const CharSet &Of(const std::string &expression);
 
 private:
-    bool m_matchCase;
+    bool m_withCase, m_withoutCase; // how the characters are compared, or both
     std::map<std::string, CharSet> m_known;
 };
 

@@ -2,6 +2,7 @@
 
 #include "search/ClassEnd.h"
 
+#include <algorithm>
 #include <cctype>
 
 namespace Search {
@@ -47,6 +48,8 @@ public:
     Reader(const std::string &pattern, CharSets *sets) : m_pattern(pattern), m_sets(sets) {}
 
     bool Read(Piece *whole) {
+        if (ChangesCase())
+            m_sets->TakeBoth();
         *whole = ReadChoice();
         return m_known && m_at == m_pattern.size();
     }
@@ -59,6 +62,22 @@ private:
         const bool follows = m_pattern.compare(m_at, length, text) == 0;
         m_at += follows ? length : 0;
         return follows;
+    }
+    // The end of an inline option such as (?i) or (?-s: that begins here; 0 where there is none.
+    size_t OptionEnd(size_t at) const {
+        if (m_pattern.compare(at, 2, "(?") != 0)
+            return 0;
+        const size_t end = m_pattern.find_first_not_of("ims-", at + 2);
+        return end == std::string::npos || end == at + 2 || (m_pattern[end] != ')' && m_pattern[end] != ':')
+                   ? 0
+                   : end;
+    }
+    bool ChangesCase() const {
+        for (size_t at = m_pattern.find("(?"); at != std::string::npos; at = m_pattern.find("(?", at + 1)) {
+            if (m_pattern.substr(at, OptionEnd(at) - at).find('i') != std::string::npos)
+                return true;
+        }
+        return false;
     }
     Piece Unknown() {
         m_known = false;
@@ -167,6 +186,8 @@ private:
             return Unknown();
         if (std::string("dDwWsSlLuUhHvVntrfae").find(c) != std::string::npos)
             return Set(m_at + 2);
+        if (c == 'x')
+            return ReadCode();
         m_at += 2;
         switch (c) {
         case 'A': return Fixed(Condition(Between::TextStart));
@@ -175,11 +196,26 @@ private:
         case 'b': return Fixed(Condition(Between::WordEdge));
         case 'B': return Fixed(Condition(Between::NoWordEdge));
         case 'g': return ReadReference();
+        case 'Q': return ReadQuoted();
         default: break;
         }
         const bool literal =
             std::string("<>`'").find(c) == std::string::npos && std::ispunct(static_cast<unsigned char>(c));
         return literal ? OneOf(m_sets->Of(c)) : Unknown();
+    }
+    Piece ReadQuoted() {
+        Piece sequence;
+        while (!Ended() && !Take("\\E"))
+            sequence.parts.push_back(OneOf(m_sets->Of(m_pattern[m_at++])));
+        return Fixed(sequence);
+    }
+    Piece ReadCode() {
+        const auto isHex = [this](size_t at) {
+            return std::isxdigit(static_cast<unsigned char>(At(at))) != 0;
+        };
+        if (At(m_at + 2) == '{')
+            return Set(std::min(m_pattern.find('}', m_at), m_pattern.size()) + 1);
+        return isHex(m_at + 2) && isHex(m_at + 3) ? Set(m_at + 4) : Unknown();
     }
     Piece ReadReference() {
         const size_t end = At(m_at) == '{' ? m_pattern.find('}', m_at) : std::string::npos;
@@ -188,7 +224,14 @@ private:
         m_at = end + 1;
         return AnyText();
     }
+    // The options for lines and dots only narrow what is taken without them.
+    Piece ReadOption() {
+        m_at = OptionEnd(m_at);
+        return At(m_at++) == ':' ? ReadInner() : Fixed(Piece());
+    }
     Piece ReadGroup() {
+        if (OptionEnd(m_at) > 0)
+            return ReadOption();
         if (Take("(?<!\\w)"))
             return Fixed(Condition(Between::NotAfterWord));
         if (Take("(?!\\w)"))

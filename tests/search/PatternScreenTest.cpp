@@ -61,6 +61,17 @@ TEST(PatternScreen, AlternativesAndGroupsAreTold) {
     EXPECT_FALSE(MayMatch(Typed("()*", kWholeCell), "a"));
 }
 
+TEST(PatternScreen, OptionsCodesAndQuotedTextAreTold) {
+    EXPECT_TRUE(MayMatch(Typed("(?i)cat"), "a CAT"));
+    EXPECT_FALSE(MayMatch(Typed("(?i)cat"), "a COW"));
+    EXPECT_TRUE(MayMatch(Typed("a(?i:b)(?-s).", kWholeCell), "aBc"));
+    EXPECT_FALSE(MayMatch(Typed("a(?i:b)", kWholeCell), "ac"));
+    EXPECT_TRUE(MayMatch(Typed("\\x41\\x{42}"), "AB"));
+    EXPECT_FALSE(MayMatch(Typed("\\x41\\x{42}"), "AC"));
+    EXPECT_TRUE(MayMatch(Typed("\\Q(a+\\E"), "x(a+)"));
+    EXPECT_FALSE(MayMatch(Typed("\\Q(a+\\E"), "aa"));
+}
+
 TEST(PatternScreen, WhatIsNotToldIsTakenWider) {
     EXPECT_TRUE(MayMatch(Typed("(a|b)\\1", kWholeCell), "ab")); // and the expression says no
     EXPECT_FALSE(MayMatch(Typed("(a|b)\\1", kWholeCell), "cc"));
@@ -69,7 +80,7 @@ TEST(PatternScreen, WhatIsNotToldIsTakenWider) {
 }
 
 TEST(PatternScreen, WhereTheMeaningIsNotKnownEveryTextMayMatch) {
-    for (const char *regex : {"(?i)a", "a(?#comment)b", "\\x41", "\\Qa\\E", "(a)?(?(1)b|c)", "(a|b(?1)c)",
+    for (const char *regex : {"(?x)a", "a(?#comment)b", "\\x4", "\\Qa\\E+", "(a)?(?(1)b|c)", "(a|b(?1)c)",
                               "a\\Kb", "a*+*", "(?:(?:a{100}){100}){100}"}) {
         const PatternScreen screen(Typed(regex), true);
         EXPECT_FALSE(screen.Knows()) << regex;
@@ -124,8 +135,8 @@ private:
     }
     std::string Atom(int depth) {
         if (depth > 0 && m_random->OneIn(4)) {
-            static const char *const openings[] = {"(",     "(",   "(",   "(?:",  "(?>",
-                                                   "(?<n>", "(?=", "(?!", "(?'m'"};
+            static const char *const openings[] = {"(",   "(",   "(",     "(?:",  "(?>",  "(?<n>",
+                                                   "(?=", "(?!", "(?'m'", "(?i:", "(?-i:"};
             return m_random->Of(openings) + Choice(depth - 1) + ")";
         }
         static const char *const atoms[] = {
@@ -143,8 +154,8 @@ private:
     }
     std::string Place() {
         static const char *const places[] = {
-            "^",       "$",        "\\A",    "\\z",    "\\Z",  "\\b",   "\\B", "\\<",   "\\>", "\\`",
-            "(?!\\w)", "(?<!\\w)", "(?<=a)", "(?<!b)", "(?i)", "(?#x)", "\\K", "(?-s)", "(?m)"};
+            "^",       "$",        "\\A",    "\\z",    "\\Z",  "\\b",   "\\B",   "\\<", "\\>",   "\\`",
+            "(?!\\w)", "(?<!\\w)", "(?<=a)", "(?<!b)", "(?i)", "(?-i)", "(?#x)", "\\K", "(?-s)", "(?m)"};
         return m_random->Of(places);
     }
     std::string Soup() {
