@@ -2,8 +2,6 @@
 #include "dataeditor/DataEditorDlgs.h"
 #include "dataeditor/OrvaneEditor.h"
 
-#include "search/CellPattern.h"
-
 #include <algorithm>
 #include <string>
 
@@ -110,7 +108,7 @@ bool COrvaneEditor::ReplaceCellStringIfMatch(int col, long row, const char *find
     for (long long offset = 0;;) {
         const std::string tail = text.substr(static_cast<size_t>(offset));
         std::string newText;
-        const Search::CellPattern &tried = PatternOf(pattern.c_str(), matchCase);
+        const Search::CellPattern &tried = m_patterns.Get(pattern.c_str(), matchCase);
         *matched = tried.Matches(tail) && tried.ReplaceFirst(tail, replace, &newText);
         if (!*matched) {
             *replaced = false;
