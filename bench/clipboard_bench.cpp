@@ -4,9 +4,12 @@
 // clipboard, pasted over the records before them (whole commands, as from the menu), undone in one step; the same
 // block inserted as new records and undone. Beside it what the parts cost: the cells read, the text gathered, the
 // clipboard alone, the cells written straight into the source. Medians with minimum and maximum.
-#include "bench/EditorBench.h"
+#include "bench/BenchFrame.h"
+#include "bench/BenchHost.h"
+#include "bench/BenchTable.h"
 
 #include "editorcore/ClipboardText.h"
+#include "editorcore/EditorCore.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -17,11 +20,6 @@ constexpr long kRows = 5000;
 constexpr int kCols = 20;
 constexpr double kCells = static_cast<double>(kRows) * kCols;
 constexpr int kRuns = 11;
-
-class CBenchFrame : public CFrameWnd {
-public:
-    CBenchFrame() { Create(nullptr, "Bench", WS_POPUP | WS_VISIBLE, CRect(0, 0, 1600, 1000)); }
-};
 
 class CClipboardBench {
 public:
@@ -131,13 +129,13 @@ int main(int argc, char **argv) {
         return 2;
     }
     CWinApp app("clipboard_bench");
-    AfxWinInit(::GetModuleHandleA(nullptr), nullptr, const_cast<char *>(""), SW_SHOW);
+    BeginBench();
     CBenchHost host;
     CEditorCore::Initialise(&host);
     auto *frame = new CBenchFrame;
     {
         CEditorCore editor;
-        editor.CreateGrid(WS_VISIBLE, CRect(0, 0, 1600, 1000), frame, 100);
+        editor.CreateGrid(WS_VISIBLE, CBenchFrame::Client(), frame, 100);
         editor.AutoSaveLayoutInfo(false);
         if (!editor.LoadData(argv[1], nullptr, kEditNormal, ""))
             return 1;

@@ -3,7 +3,11 @@
 // Workload: open each table to its first complete paint, in turn; in the middle one a full repaint, a page
 // down, one line down, a jump to the end, reads of cells through the control and through the source alone, and
 // 10,000 inserts in the middle; the memory that the large one adds. Medians with minimum and maximum.
-#include "bench/EditorBench.h"
+#include "bench/BenchFrame.h"
+#include "bench/BenchHost.h"
+#include "bench/BenchTable.h"
+
+#include "editorcore/EditorCore.h"
 
 #include <windows.h>
 
@@ -18,11 +22,6 @@ constexpr int kRuns = 15;
 constexpr int kCellReads = 1000000;
 constexpr int kInserts = 10000;
 
-class CBenchFrame : public CFrameWnd {
-public:
-    CBenchFrame() { Create(nullptr, "Bench", WS_POPUP | WS_VISIBLE, CRect(0, 0, 1600, 1000)); }
-};
-
 double ResidentMegabytes() {
     PROCESS_MEMORY_COUNTERS counters{};
     counters.cb = sizeof counters;
@@ -32,7 +31,7 @@ double ResidentMegabytes() {
 
 std::unique_ptr<CEditorCore> OpenTable(CFrameWnd &frame, const char *path) {
     auto editor = std::make_unique<CEditorCore>();
-    editor->CreateGrid(WS_VISIBLE, CRect(0, 0, 1600, 1000), &frame, 100);
+    editor->CreateGrid(WS_VISIBLE, CBenchFrame::Client(), &frame, 100);
     editor->AutoSaveLayoutInfo(false);
     if (!editor->LoadData(path, nullptr, kEditNormal, "")) {
         std::fprintf(stderr, "cannot open %s\n", path);
@@ -121,7 +120,7 @@ int main(int argc, char **argv) {
         return 2;
     }
     CWinApp app("editor_bench");
-    AfxWinInit(::GetModuleHandleA(nullptr), nullptr, const_cast<char *>(""), SW_SHOW);
+    BeginBench();
     CBenchHost host;
     CEditorCore::Initialise(&host);
     auto *frame = new CBenchFrame;

@@ -6,7 +6,8 @@
 // lines of each cell, and without. They are timed in turn, so that their ratio is of one run. Both ends of a paint are
 // in both: ending one brings the window's pixels to the screen.
 // Also: one line scrolled, as a share of the full repaint. Medians with minimum and maximum.
-#include "bench/EditorBench.h"
+#include "bench/BenchFrame.h"
+#include "bench/BenchTable.h"
 
 #include "grid/UGCtrl.h"
 #include "grid/UGDrawRules.h"
@@ -35,14 +36,10 @@ public:
     long m_reads = 0;
 };
 
-class CBenchFrame : public CFrameWnd {
-public:
-    // Room for the cells, and for the bar at the right that the table's length calls for.
-    CBenchFrame() {
-        const int width = kCols * kColWidthPx + ::GetSystemMetrics(SM_CXVSCROLL);
-        Create(nullptr, "Bench", WS_POPUP | WS_VISIBLE, CRect(0, 0, width, kRows * kRowHeightPx));
-    }
-};
+// Room for the cells, and for the bar at the right that the table's length calls for.
+int FrameWidth() {
+    return kCols * kColWidthPx + ::GetSystemMetrics(SM_CXVSCROLL);
+}
 
 void ShowTable(CUGCtrl &grid, CVirtualSource &source) {
     const int index = grid.AddDataSource(&source);
@@ -90,6 +87,8 @@ void DrawLines(HDC dc, const RECT &cell) {
 // Draws by itself what the grid shows.
 class CPlainWindow : public CBenchFrame {
 public:
+    CPlainWindow() : CBenchFrame(FrameWidth(), kRows * kRowHeightPx) {}
+
     std::vector<std::string> m_texts;
     bool m_lines = true;
 
@@ -159,8 +158,8 @@ void Measure(CUGCtrl &grid, CVirtualSource &source, CPlainWindow &plain) {
 
 int main() {
     CWinApp app("grid_bench");
-    AfxWinInit(::GetModuleHandleA(nullptr), nullptr, const_cast<char *>(""), SW_SHOW);
-    auto *frame = new CBenchFrame;
+    BeginBench();
+    auto *frame = new CBenchFrame(FrameWidth(), kRows * kRowHeightPx);
     CVirtualSource source;
     CRect client;
     frame->GetClientRect(&client);

@@ -8,12 +8,9 @@
 
 #include "dataeditor/FindReplaceData.h"
 #include "editorcore/EditorCore.h"
+#include "search/KeptPatterns.h"
 
 #include <memory>
-
-namespace Search {
-class CellPattern;
-}
 
 // Messages to the editor.
 constexpr UINT kMsgRejectLookupCode = 1034;
@@ -168,7 +165,6 @@ private:
     void DropButtonMessages();
     long FindPassing(long row, int step);
     bool StepToRecord(UINT key, int step, int newCol);
-    const Search::CellPattern &PatternOf(const char *find, bool matchCase);
     const char *CellText(int col, long row);
     bool WalkColumn(ColumnSearch *search);
     bool FindInSearchOrder(ColumnSearch *search);
@@ -188,8 +184,6 @@ private:
     int SpanOfColumns(int first, int last);
 
     bool m_bStay = false; // the key just handled moves nothing further
-    std::unique_ptr<Search::CellPattern> m_pPattern;
-    CString m_strPattern;
+    Search::KeptPatterns m_patterns;
     CUGCell m_searchedCell; // one for all, a search makes none anew
-    bool m_bPatternMatchCase = false;
 };

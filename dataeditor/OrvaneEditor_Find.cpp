@@ -1,8 +1,6 @@
 // Finding: the order of the search, and the test of one cell.
 #include "dataeditor/OrvaneEditor.h"
 
-#include "search/CellPattern.h"
-
 #include <cstring>
 
 // How a search over columns stands.
@@ -48,16 +46,6 @@ LRESULT COrvaneEditor::OnFindNext(WPARAM wParam, LPARAM) {
     return 0;
 }
 
-// Compiled once for as long as the same pattern is asked for.
-const Search::CellPattern &COrvaneEditor::PatternOf(const char *find, bool matchCase) {
-    if (m_pPattern == nullptr || m_bPatternMatchCase != matchCase || m_strPattern != find) {
-        m_pPattern = std::make_unique<Search::CellPattern>(find, matchCase);
-        m_strPattern = find;
-        m_bPatternMatchCase = matchCase;
-    }
-    return *m_pPattern;
-}
-
 // Null after an error that was told. The text lives until the next call.
 const char *COrvaneEditor::CellText(int col, long row) {
     if (GetCell(col, row, &m_searchedCell) == GRID_SUCCESS)
@@ -73,7 +61,7 @@ bool COrvaneEditor::IsMatchWithCellText(int col, long row, const char *find, boo
     const char *text = CellText(col, row);
     if (text == nullptr)
         return false;
-    *match = PatternOf(find, matchCase).Matches(text, std::strlen(text));
+    *match = m_patterns.Get(find, matchCase).Matches(text, std::strlen(text));
     return true;
 }
 

@@ -2,7 +2,6 @@
 #include "dataeditor/OrvaneEditor.h"
 
 #include "editorcore/MemoryGuard.h"
-#include "search/CellPattern.h"
 
 #include <algorithm>
 #include <cstdio>

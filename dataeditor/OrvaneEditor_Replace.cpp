@@ -2,8 +2,6 @@
 #include "dataeditor/DataEditorDlgs.h"
 #include "dataeditor/OrvaneEditor.h"
 
-#include "search/CellPattern.h"
-
 #include <algorithm>
 #include <string>
 
@@ -110,14 +108,13 @@ bool COrvaneEditor::ReplaceCellStringIfMatch(int col, long row, const char *find
     for (long long offset = 0;;) {
         const std::string tail = text.substr(static_cast<size_t>(offset));
         std::string newText;
-        const Search::CellPattern &tried = PatternOf(pattern.c_str(), matchCase);
-        *matched = tried.Matches(tail);
+        const Search::CellPattern &tried = m_patterns.Get(pattern.c_str(), matchCase);
+        *matched = tried.Matches(tail) && tried.ReplaceFirst(tail, replace, &newText);
         if (!*matched) {
             *replaced = false;
             *matched = offset > 0;
             return true;
         }
-        tried.ReplaceFirst(tail, replace, &newText);
         *replaced = all;
         if (!all && !AskToReplace(col, row, text, newText, answer, replaced, &all))
             return false;

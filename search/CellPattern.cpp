@@ -1,5 +1,6 @@
 #include "search/CellPattern.h"
 
+#include "search/PatternScreen.h"
 #include "search/RequiredText.h"
 
 #include <boost/regex.hpp>
@@ -7,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <optional>
 
 namespace Search {
 
@@ -17,7 +19,8 @@ std::array<char, 256> Folding(bool matchCase) {
     std::array<char, 256> folding;
     const boost::regex_traits<char> traits;
     for (int c = 0; c < 256; ++c)
-        folding[static_cast<size_t>(c)] = matchCase ? static_cast<char>(c) : traits.translate_nocase(static_cast<char>(c));
+        folding[static_cast<size_t>(c)] =
+            matchCase ? static_cast<char>(c) : traits.translate_nocase(static_cast<char>(c));
     return folding;
 }
 
@@ -26,6 +29,8 @@ std::array<char, 256> Folding(bool matchCase) {
 struct CellPattern::Compiled {
     boost::regex regex;
     bool valid = false;
+    std::optional<PatternScreen> screen;
+    boost::cmatch match; // kept for its memory
     std::string needed, neededFolded;
     std::array<char, 256> folding{};
 
@@ -36,13 +41,16 @@ struct CellPattern::Compiled {
     }
 };
 
-CellPattern::CellPattern(const std::string &pattern, bool matchCase) : m_compiled(std::make_unique<Compiled>()) {
+CellPattern::CellPattern(const std::string &pattern, bool matchCase)
+    : m_compiled(std::make_unique<Compiled>()) {
     try {
-        m_compiled->regex.assign(pattern, matchCase ? boost::regex::perl : boost::regex::perl | boost::regex::icase);
+        m_compiled->regex.assign(pattern,
+                                 matchCase ? boost::regex::perl : boost::regex::perl | boost::regex::icase);
         m_compiled->valid = true;
     } catch (const boost::regex_error &) {
         return;
     }
+    m_compiled->screen.emplace(pattern, matchCase);
     m_compiled->folding = Folding(matchCase);
     m_compiled->needed = m_compiled->neededFolded = RequiredText(pattern);
     for (char &c : m_compiled->neededFolded)
@@ -56,16 +64,19 @@ const std::string &CellPattern::Needed() const {
 }
 
 bool CellPattern::Matches(const char *text, size_t length) const {
-    if (!m_compiled->valid || (!m_compiled->needed.empty() && !m_compiled->HasNeeded(text, length)))
+    if (!m_compiled->valid || (!m_compiled->needed.empty() && !m_compiled->HasNeeded(text, length)) ||
+        !m_compiled->screen->MayMatch(text, length))
         return false;
     try {
-        return boost::regex_match(text, text + length, m_compiled->regex);
+        return boost::regex_match(text, text + length, m_compiled->match, m_compiled->regex,
+                                  boost::regex_constants::match_any);
     } catch (const std::runtime_error &) {
         return false; // the library's own bound on backtracking
     }
 }
 
-bool CellPattern::ReplaceFirst(const std::string &text, const std::string &format, std::string *replaced) const {
+bool CellPattern::ReplaceFirst(const std::string &text, const std::string &format,
+                               std::string *replaced) const {
     replaced->clear();
     if (!m_compiled->valid)
         return false;
@@ -73,8 +84,10 @@ bool CellPattern::ReplaceFirst(const std::string &text, const std::string &forma
         boost::smatch match;
         if (!boost::regex_search(text, match, m_compiled->regex))
             return false;
-        boost::regex_replace(std::back_inserter(*replaced), text.begin(), text.end(), m_compiled->regex, format,
-                             boost::regex_constants::format_first_only);
+        replaced->assign(text.begin(), match[0].first);
+        match.format(std::back_inserter(*replaced), format, boost::regex_constants::format_first_only,
+                     m_compiled->regex);
+        replaced->append(match[0].second, text.end());
         return true;
     } catch (const std::runtime_error &) {
         replaced->clear();

@@ -1,7 +1,8 @@
 // CellPattern: a pattern compiled once and tried on the texts of many cells.
 //
-// A text that cannot match, because a piece of it that the pattern needs is missing, is told apart without the
-// regular expression; the answer is the same.
+// A text that cannot match, because a piece of it that the pattern needs is missing or because no order of its
+// characters leads through the pattern, is told apart without the regular expression; the answer is the same. What is
+// learnt in doing so is kept, so a pattern serves one thread at a time.
 #pragma once
 
 #include <memory>

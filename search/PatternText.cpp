@@ -1,5 +1,7 @@
 #include "search/PatternText.h"
 
+#include "search/ClassEnd.h"
+
 #include <cctype>
 
 namespace Search {
@@ -31,7 +33,7 @@ public:
         while (m_at < m_text.size()) {
             switch (m_text[m_at]) {
             case '\\': MoveEscape(); break;
-            case '[': MoveClass(); break;
+            case '[': Copy(ClassEnd(m_text, m_at) - m_at); break;
             case '(': MoveOpening(); break;
             case ')':
                 if (--m_depth < 0)
@@ -91,24 +93,6 @@ private:
         m_moved += "\\g{" + std::to_string(number + kFoundGroup) + "}";
         m_at = braced ? after + 1 : after;
         return true;
-    }
-    void MoveClass() {
-        size_t end = m_at + 1;
-        if (end < m_text.size() && m_text[end] == '^')
-            ++end;
-        if (end < m_text.size() && m_text[end] == ']')
-            ++end; // a bracket at the beginning is one of the characters
-        while (end < m_text.size() && m_text[end] != ']') {
-            if (m_text[end] == '\\') {
-                ++end;
-            } else if (m_text[end] == '[' && end + 1 < m_text.size() && std::string(":.=").find(m_text[end + 1]) != std::string::npos) {
-                const std::string close = {m_text[end + 1], ']'};
-                const size_t found = m_text.find(close, end + 2);
-                end = found == std::string::npos ? m_text.size() : found + 1;
-            }
-            ++end;
-        }
-        Copy(end + 1 - m_at);
     }
     void MoveOpening() {
         if (Follows("(?#")) {

@@ -56,6 +56,8 @@ private:
             GiveUp();
         else if (std::isalnum(static_cast<unsigned char>(m_pattern[m_at + 1])))
             std::string("AzZKbBdDsSwW").find(m_pattern[m_at + 1]) != std::string::npos ? Opaque(2) : GiveUp();
+        else if (std::string("<>`'").find(m_pattern[m_at + 1]) != std::string::npos)
+            Opaque(2); // places at words and at the ends of the text
         else
             Literal(m_pattern[m_at + 1], 2);
     }

@@ -113,6 +113,62 @@ TEST_F(DataEditorFindTest, AStopSaysNothing) {
     EXPECT_EQ("1,0 ", Find(editor, "nothing", kSearchAll, true));
 }
 
+TEST_F(DataEditorFindTest, TheHostIsAskedForAStopOnceForEachCell) {
+    TestDataEditor &editor = OpenWithHits({});
+    editor.GotoCell(1, 1);
+    const auto looks = [&](int direction, bool allFields) {
+        m_service.m_looks = 0;
+        Find(editor, "hit", direction, allFields);
+        return m_service.m_looks;
+    };
+    EXPECT_EQ(2, looks(kSearchDown, false));
+    EXPECT_EQ(1, looks(kSearchUp, false));
+    EXPECT_EQ(4, looks(kSearchAll, false));
+    EXPECT_EQ(12, looks(kSearchAll, true));
+    editor.GotoCell(1, 3);
+    EXPECT_EQ(0, looks(kSearchDown, false));
+    editor.GotoCell(1, 0);
+    EXPECT_EQ(0, looks(kSearchUp, false));
+}
+
+// The look ahead makes the expression try every way to part the text.
+TEST_F(DataEditorFindTest, APatternThatBacktracksWithoutEndMatchesNothingAndAStopEndsIt) {
+    TestDataEditor &editor = OpenEditor(1, 4);
+    for (auto &row : m_source->m_rows)
+        row[0] = std::string(1000, 'a');
+    m_source->m_rows[3][0] = "aab";
+    const char *const endless = "(a|aa)*(a|aa)*(a|aa)*(a|aa)*(a|aa)*(?=b)b";
+    CFindReplaceData data;
+    data.SetData(endless, "", true, false, kSearchDown, Search::kWholeCell, true);
+    ::SendMessageA(editor.m_hWnd, kMsgFindNext, reinterpret_cast<WPARAM>(&data), 0);
+    EXPECT_EQ("0,3 ", editor.At() + " " + TestApp().TakeBoxes()); // past two that are given up
+    ::SendMessageA(editor.m_hWnd, kMsgFindNext, reinterpret_cast<WPARAM>(&data), 0);
+    EXPECT_EQ("Could not match the search string '" + std::string(endless) + "'.|0", TestApp().TakeBoxes());
+    editor.GotoCell(0, 0);
+    m_service.m_abortAtLook = m_service.m_looks + 2;
+    ::SendMessageA(editor.m_hWnd, kMsgFindNext, reinterpret_cast<WPARAM>(&data), 0);
+    EXPECT_EQ("0,0 ", editor.At() + " " + TestApp().TakeBoxes());
+    EXPECT_EQ(m_service.m_abortAtLook, m_service.m_looks);
+}
+
+TEST_F(DataEditorFindTest, ACellThatCannotBeGotEndsTheSearch) {
+    TestDataEditor &editor = OpenWithHits({{1, 2}});
+    editor.GotoCell(1, 0);
+    m_source->m_results["GetCell"] = GRID_ERROR;
+    EXPECT_EQ("1,0 Could not get cell!|16", Find(editor, "hit", kSearchDown, false));
+}
+
+TEST_F(DataEditorFindTest, AMatchThatCannotBeGoneToIsSaid) {
+    TestDataEditor &editor = OpenWithHits({{1, 2}});
+    editor.GotoCell(1, 0);
+    editor.m_canMove = false;
+    EXPECT_EQ("1,0 Could not go to cell (1, 2)!|16", Find(editor, "hit", kSearchDown, false));
+    editor.ClearSelections();
+    editor.SelectRange(0, 1, 2, 3);
+    EXPECT_EQ("1,0 Could not go to cell (1, 2)!|16", Find(editor, "hit", kSearchSelection, false));
+    EXPECT_FALSE(editor.IsInMultipleSelection());
+}
+
 TEST_F(DataEditorFindTest, FindAgainRepeatsTheLastFind) {
     TestDataEditor &editor = OpenWithHits({{1, 1}, {1, 3}});
     editor.GotoCell(1, 0);

@@ -48,6 +48,16 @@ protected:
         }
         return seen;
     }
+    // What the host was asked for of cursors and messages.
+    std::string HostCalls() {
+        std::vector<std::string> seen;
+        for (const std::string &call : m_log.m_calls) {
+            if (call.rfind("Wait(", 0) == 0 || call.rfind("Message(", 0) == 0)
+                seen.push_back(call);
+        }
+        m_log.Take();
+        return Join(seen);
+    }
     static constexpr int kYes = CYesNoCancelAllDlg::kYes, kNo = CYesNoCancelAllDlg::kNo, kAll = CYesNoCancelAllDlg::kAll;
     std::string m_questions;
 };
@@ -80,6 +90,20 @@ TEST_F(DataEditorReplaceTest, CancelAtTheFirstQuestionShowsNothingAtAll) {
     EXPECT_EQ("cat,cat", Column());
     EXPECT_EQ("", TestApp().TakeBoxes());
     EXPECT_EQ("[]", Transactions());
+}
+
+TEST_F(DataEditorReplaceTest, CancelLaterOnKeepsWhatWasReplacedAndTellsNoSummary) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat"});
+    Replace(editor, "cat", "cow", {kYes, IDCANCEL});
+    EXPECT_EQ("cow,cat", Column());
+    EXPECT_EQ("", TestApp().TakeBoxes());
+    EXPECT_EQ("Wait(1) Wait(-1) Wait(0) Wait(-1) Wait(0) Wait(-1)", HostCalls());
+}
+
+TEST_F(DataEditorReplaceTest, TheWaitCursorIsRestoredBehindEachQuestion) {
+    TestDataEditor &editor = OpenColumn({"cat", "dog"});
+    Replace(editor, "cat", "cow", {kYes});
+    EXPECT_EQ("Wait(1) Wait(-1) Wait(0) Wait(0) Message(Found and replaced 1 string(s).) Wait(-1)", HostCalls());
 }
 
 TEST_F(DataEditorReplaceTest, AfterAllTheRestIsOneUndoStep) {
@@ -151,6 +175,58 @@ TEST_F(DataEditorReplaceTest, ACellThatCannotBeSetEndsTheRun) {
     EXPECT_EQ("[x]", Transactions());
 }
 
+TEST_F(DataEditorReplaceTest, ACellThatCannotBeGotEndsTheRun) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat"});
+    m_source->m_results["GetCell"] = GRID_ERROR;
+    Replace(editor, "cat", "cow", {kAll});
+    EXPECT_EQ("Could not get cell!|16", TestApp().TakeBoxes());
+    EXPECT_EQ("[]", Transactions());
+}
+
+TEST_F(DataEditorReplaceTest, ACellThatCannotBeGoneToEndsTheRun) {
+    TestDataEditor &editor = OpenColumn({"dog", "cat"});
+    editor.m_canMove = false;
+    Replace(editor, "cat", "cow", {kAll});
+    EXPECT_EQ("Could not goto cell 0, 1!|16", TestApp().TakeBoxes());
+    EXPECT_EQ("", m_questions);
+    EXPECT_EQ("[]", Transactions());
+}
+
+TEST_F(DataEditorReplaceTest, AnEmptyFileMatchesNothing) {
+    TestDataEditor &editor = OpenEditor(2, 0);
+    for (int direction : {kSearchUp, kSearchDown, kSearchAll}) {
+        Replace(editor, "cat", "cow", {kAll}, direction, true);
+        EXPECT_EQ("Could not match the search string 'cat'.|0", TestApp().TakeBoxes()) << direction;
+    }
+    EXPECT_EQ("", Transactions());
+}
+
+TEST_F(DataEditorReplaceTest, AStopBehindARefusalClosesTheOpenStep) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat"});
+    m_service.m_abortAtLook = m_service.m_looks + 2;
+    Replace(editor, "cat", "cow", {kNo, kAll});
+    EXPECT_EQ("cat,cat", Column());
+    EXPECT_EQ(std::string::npos, Join(m_log.m_calls).find("Message("));
+    EXPECT_EQ("[]", Transactions());
+    EXPECT_EQ("", TestApp().TakeBoxes());
+}
+
+// The look ahead makes the expression try every way to part the text.
+TEST_F(DataEditorReplaceTest, APatternThatBacktracksWithoutEndMatchesNothingAndAStopEndsIt) {
+    const std::string endless(1000, 'a');
+    TestDataEditor &editor = OpenColumn({endless.c_str(), "aab", endless.c_str()});
+    const char *const find = "(a|aa)*(a|aa)*(a|aa)*(a|aa)*(a|aa)*(?=b)b";
+    m_service.m_abortAtLook = m_service.m_looks + 2;
+    Replace(editor, find, "x", {kAll}, kSearchDown, false, Search::kWholeCell, true);
+    EXPECT_EQ(endless + ",aab," + endless, Column());
+    EXPECT_EQ("[]", Transactions());
+    m_service.m_abortAtLook = 0;
+    Replace(editor, find, "x", {kAll}, kSearchDown, false, Search::kWholeCell, true);
+    EXPECT_EQ(endless + ",x," + endless, Column());
+    EXPECT_EQ("[x]", Transactions());
+    EXPECT_EQ("", TestApp().TakeBoxes());
+}
+
 TEST_F(DataEditorReplaceTest, AStopClosesTheStepAndSaysNothing) {
     TestDataEditor &editor = OpenColumn({"cat", "cat"});
     m_service.m_abort = 1;
@@ -180,6 +256,15 @@ TEST_F(DataEditorReplaceTest, ADollarInFrontOfBothIsRepeatModeAndLeavesTheReplac
     WithDialog act([](HWND dialog) { ::SendMessageA(dialog, WM_COMMAND, kAll, 0); }, true);
     editor.DoReplace(0, "$", "$new", "$", kSearchDown, true);
     EXPECT_EQ("new,x", Column()); // one replacement a cell, at the most
+}
+
+TEST_F(DataEditorReplaceTest, ADollarInFrontOfOneOfThemIsKept) {
+    TestDataEditor &editor = OpenColumn({"", "x"});
+    WithDialog act([](HWND dialog) { ::SendMessageA(dialog, WM_COMMAND, kAll, 0); }, true);
+    editor.DoReplace(0, "$", "new", "$", kSearchDown, true);
+    EXPECT_EQ("new,x", Column());
+    editor.DoReplace(0, "x", "$new", "x", kSearchDown, true);
+    EXPECT_EQ("new,$new", Column());
 }
 
 TEST_F(DataEditorReplaceTest, ReplacingLeavesFindAgainAlone) {

@@ -18,6 +18,8 @@ public:
     void RequestAbort() { m_bAbortRequested = true; }
     // "cur=(c,r) top"
     std::string At() { return std::to_string(GetCurrentCol()) + "," + std::to_string(GetCurrentRow()); }
+    int OnCanMove(int, long, int, long) override { return m_canMove; }
+    bool m_canMove = true;
     void OnFileModify() override {
         m_log->Note("FileModify");
         COrvaneEditor::OnFileModify();

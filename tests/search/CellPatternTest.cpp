@@ -24,7 +24,22 @@ TEST(CellPattern, OneThatDoesNotCompileMatchesNothing) {
     EXPECT_FALSE(pattern.ReplaceFirst("a(", "x", &replaced));
 }
 
+// The look ahead keeps the text from being told apart beforehand, so that the library really tries it.
 TEST(CellPattern, BacktrackingWithoutEndIsGivenUpAndNoMatch) {
+    const std::string endless = "(a|aa)*(a|aa)*(a|aa)*(a|aa)*(a|aa)*(?=b)b?";
+    const std::string text(4000, 'a');
+    EXPECT_THROW(boost::regex_match(text, boost::regex(endless)), std::runtime_error);
+    for (const std::string &pattern : {endless, RegexifyFindString(endless, kAnywhere | kTypedRegex)}) {
+        const CellPattern tried(pattern, true);
+        EXPECT_FALSE(tried.Matches(text)) << pattern;
+        EXPECT_TRUE(tried.Matches("aab")) << pattern; // and the next text is tried as ever
+        std::string replaced = "kept";
+        EXPECT_FALSE(tried.ReplaceFirst(text, "x", &replaced)) << pattern;
+        EXPECT_EQ("", replaced);
+    }
+}
+
+TEST(CellPattern, EndlessPatternsWithoutAnEndInTheTextAreToldBeforehand) {
     const CellPattern pattern("(a|aa)*(a|aa)*(a|aa)*(a|aa)*(a|aa)*b", true);
     EXPECT_FALSE(pattern.Matches(std::string(4000, 'a') + "c"));
     EXPECT_TRUE(pattern.Matches("aab"));
@@ -42,6 +57,7 @@ TEST(RequiredText, TheLongestRunThatEveryMatchHolds) {
     EXPECT_EQ("wor", RequiredText("wor?wor"));
     EXPECT_EQ("abc", RequiredText("abc+de*"));
     EXPECT_EQ("cat", RequiredText("\\A(?<_before>.*?)(?<!\\w)(cat)(?!\\w)(?<_after>.*)"));
+    EXPECT_EQ("cat", RequiredText("\\`\\<cat\\>\\'"));
 }
 
 TEST(RequiredText, WhereTheMeaningIsNotPlainThereIsNone) {

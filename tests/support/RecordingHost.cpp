@@ -46,10 +46,3 @@ CUGDataSource *RecordingHost::CreateDataSource(const char *path) {
     m_sources.pop_front();
     return source;
 }
-
-void RecordingHost::GetLookupOptions(bool *validate, bool *validateOnKey, bool *resolveSubMenus,
-                                     bool *allowPartialCodes, bool *beepOnInvalid, int *invalidAction,
-                                     CString *, CString *) {
-    *validate = *validateOnKey = *resolveSubMenus = *allowPartialCodes = *beepOnInvalid = false;
-    *invalidAction = 0;
-}

@@ -1,8 +1,7 @@
 // RecordingHost and RecordingOptions: the host's services, noting what is asked of them.
 #pragma once
 
-#include "editorcore/AppInterface.h"
-
+#include "QuietHost.h"
 #include "RecordingSource.h"
 
 #include <afxwin.h>
@@ -11,7 +10,7 @@
 #include <functional>
 #include <string>
 
-class RecordingOptions : public CVEditorOptions {
+class RecordingOptions : public QuietOptions {
 public:
     explicit RecordingOptions(CallLog *log);
 
@@ -25,8 +24,6 @@ public:
     int GetMaxDisplayColWidth() override { return 33; }
     bool IsEnterKeyTab() override { return m_enterIsTab; }
     void SetEnterKeyTab(bool enterIsTab) override;
-    bool IsRightJustifyingNumbers() override { return true; }
-    bool IsRightJustifyingText() override { return false; }
     void SetGridLines(bool horizontal, bool vertical) override {
         m_horizontal = horizontal;
         m_vertical = vertical;
@@ -48,20 +45,19 @@ private:
     CallLog *m_log;
 };
 
-class RecordingHost : public CVAppInterface {
+class RecordingHost : public QuietHost {
 public:
     explicit RecordingHost(CallLog *log) : m_options(log), m_log(log) {}
 
     void SetEditorTitle(const char *path, const char *table, CEditorCore *editor) override;
     void OnGridHotKey() override { m_log->Note("HotKey"); }
-    bool LoadXParmsSet(const char *, CMap<CString, const char *, CExecuteInfo, CExecuteInfo &> *) override {
-        return false;
-    }
     void GetAppTitle(CString &title) override { title = "Test"; }
-    int CheckAbort() override { return m_abort; }
+    int CheckAbort() override {
+        ++m_looks;
+        return m_abortAtLook > 0 && m_looks >= m_abortAtLook ? 1 : m_abort;
+    }
     // The sources of m_sources in turn, then null.
     CUGDataSource *CreateDataSource(const char *path) override;
-    void ShowFileInformation(CUGDataSource *) override {}
     bool PromptSaveAs(CString &name, bool *useFiltered, bool attached) override {
         return m_onSaveAs && m_onSaveAs(name, useFiltered, attached);
     }
@@ -70,25 +66,11 @@ public:
         if (m_onVisibility)
             m_onVisibility(names, shown);
     }
-    bool PromptXParms(CStringArray &, CStringArray &, CArray<bool, bool> &, CString, const char *,
-                      CArray<CFieldStatus, CFieldStatus &> *, CString &,
-                      CArray<CExecuteInfo *, CExecuteInfo *> &) override {
-        return false;
-    }
     void ShowFindDialog(bool selection, CWnd *, UINT message) override { NoteDialog("FindDialog", selection, message); }
     void ShowReplaceDialog(bool selection, CWnd *, UINT message) override {
         NoteDialog("ReplaceDialog", selection, message);
     }
     CVEditorOptions *GetEditorOptions() override { return &m_options; }
-    void GetDefaultFieldWidths(UINT *code, UINT *description) override { *code = *description = 10; }
-    bool EditLookupTableProperties(bool *, bool *, bool *, bool *) override { return false; }
-    void GetLookupOptions(bool *, bool *, bool *, bool *, bool *, int *, CString *, CString *) override;
-    bool EditLookupUserOptions(bool *, bool *, bool *, bool *, bool *, int *, CString *, CString *, UINT *,
-                               UINT *) override {
-        return false;
-    }
-    void EditLookupAdminOptions(CLookupOptionsMgr *) override {}
-    void SetDefaultFieldWidths(UINT, UINT) override {}
     bool EditFilter(int number, const char *path) override {
         m_log->Note("EditFilter(" + std::to_string(number) + "," + path + ")");
         return m_filterAnswer;
@@ -104,6 +86,8 @@ public:
     RecordingOptions m_options;
     std::deque<CUGDataSource *> m_sources;
     int m_abort = 0;
+    long m_looks = 0;       // CheckAbort calls
+    long m_abortAtLook = 0; // from this one on the answer is to stop; 0 for m_abort alone
     std::function<void(CEditorCore *)> m_onTitle;
     std::function<bool(CStringArray *)> m_onOrder;
     std::function<bool(CString &, bool *, bool)> m_onSaveAs;

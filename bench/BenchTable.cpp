@@ -1,23 +1,8 @@
-#include "bench/EditorBench.h"
-
-#include "host/sources/DbfDataSource.h"
+#include "bench/BenchTable.h"
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <cstring>
-
-void CBenchOptions::GetCellFont(LOGFONTA *font) {
-    std::memset(font, 0, sizeof *font);
-    font->lfHeight = -13;
-    std::strcpy(font->lfFaceName, "Arial");
-}
-
-CUGDataSource *CBenchHost::CreateDataSource(const char *) {
-    CDbfDataSource::Hooks hooks;
-    hooks.message = [](const std::string &text) { std::fprintf(stderr, "%s\n", text.c_str()); };
-    return new CDbfDataSource(hooks);
-}
 
 double CBenchTable::Milliseconds(const std::function<void()> &work) {
     const auto start = std::chrono::steady_clock::now();

@@ -1,18 +1,20 @@
-// What the editor benchmarks share: a host that answers with defaults, a window of the stated size, and a table
-// of medians.
+// QuietHost and QuietOptions: a host that offers nothing, takes everything and shows nothing. What a test or
+// a benchmark wants otherwise it overrides.
 #pragma once
+
+#include "editorcore/AppInterface.h"
 
 #include <afxwin.h>
 
-#include "editorcore/EditorCore.h"
+#include <cstring>
 
-#include <functional>
-#include <string>
-#include <vector>
-
-class CBenchOptions final : public CVEditorOptions {
+class QuietOptions : public CVEditorOptions {
 public:
-    void GetCellFont(LOGFONTA *font) override;
+    void GetCellFont(LOGFONTA *font) override {
+        std::memset(font, 0, sizeof *font);
+        font->lfHeight = -13;
+        std::strcpy(font->lfFaceName, "Arial");
+    }
     void GetHeadingFont(LOGFONTA *font) override { GetCellFont(font); }
     void SetCellFont(const LOGFONTA *) override {}
     void SetHeadingFont(const LOGFONTA *) override {}
@@ -28,16 +30,16 @@ public:
     void GetGridLines(bool *horizontal, bool *vertical) override { *horizontal = *vertical = true; }
 };
 
-class CBenchHost final : public CVAppInterface {
+class QuietHost : public CVAppInterface {
 public:
     void SetEditorTitle(const char *, const char *, CEditorCore *) override {}
     void OnGridHotKey() override {}
     bool LoadXParmsSet(const char *, CMap<CString, const char *, CExecuteInfo, CExecuteInfo &> *) override {
         return false;
     }
-    void GetAppTitle(CString &title) override { title = "Bench"; }
+    void GetAppTitle(CString &title) override { title = "Quiet"; }
     int CheckAbort() override { return 0; }
-    CUGDataSource *CreateDataSource(const char *path) override;
+    CUGDataSource *CreateDataSource(const char *) override { return nullptr; }
     void ShowFileInformation(CUGDataSource *) override {}
     bool PromptSaveAs(CString &, bool *, bool) override { return false; }
     bool PromptFieldOrder(CStringArray *) override { return false; }
@@ -49,10 +51,14 @@ public:
     }
     void ShowFindDialog(bool, CWnd *, UINT) override {}
     void ShowReplaceDialog(bool, CWnd *, UINT) override {}
-    CVEditorOptions *GetEditorOptions() override { return &m_options; }
-    void GetDefaultFieldWidths(UINT *, UINT *) override {}
+    CVEditorOptions *GetEditorOptions() override { return &m_quietOptions; }
+    void GetDefaultFieldWidths(UINT *code, UINT *description) override { *code = *description = 10; }
     bool EditLookupTableProperties(bool *, bool *, bool *, bool *) override { return false; }
-    void GetLookupOptions(bool *, bool *, bool *, bool *, bool *, int *, CString *, CString *) override {}
+    void GetLookupOptions(bool *validate, bool *validateOnKey, bool *resolveSubMenus, bool *allowPartialCodes,
+                          bool *beepOnInvalid, int *invalidAction, CString *, CString *) override {
+        *validate = *validateOnKey = *resolveSubMenus = *allowPartialCodes = *beepOnInvalid = false;
+        *invalidAction = 0;
+    }
     bool EditLookupUserOptions(bool *, bool *, bool *, bool *, bool *, int *, CString *, CString *, UINT *,
                                UINT *) override {
         return false;
@@ -65,15 +71,5 @@ public:
     void ShowMessage(const char *) override {}
 
 private:
-    CBenchOptions m_options;
-};
-
-// One line of the result: median with minimum and maximum.
-class CBenchTable {
-public:
-    void Add(const char *what, const char *unit, std::vector<double> values);
-    // Runs the work `runs` times after one that is not counted, in milliseconds.
-    void Time(const char *what, int runs, const std::function<void()> &work);
-    static double Milliseconds(const std::function<void()> &work);
-    static double Median(std::vector<double> values);
+    QuietOptions m_quietOptions;
 };
