@@ -1,6 +1,7 @@
 #include "host/ChildFrame.h"
 
 #include "host/FileInformation.h"
+#include "host/MainFrame.h"
 #include "host/Resource.h"
 
 IMPLEMENT_DYNAMIC(CChildFrame, CMDIChildWnd)
@@ -11,6 +12,7 @@ BEGIN_MESSAGE_MAP(CChildFrame, CMDIChildWnd)
     ON_WM_SETFOCUS()
     ON_WM_CLOSE()
     ON_MESSAGE(kMsgCommandsChanged, OnCommandsChanged)
+    ON_MESSAGE(kMsgOptionsChanged, OnOptionsChanged)
     ON_COMMAND(ID_FILE_CLOSE, OnFileClose)
     ON_COMMAND(ID_FILE_SAVE, OnFileSave)
     ON_COMMAND(ID_FILE_SAVE_AS, OnFileSaveAs)
@@ -35,6 +37,12 @@ BEGIN_MESSAGE_MAP(CChildFrame, CMDIChildWnd)
     ON_COMMAND(ID_COLUMNS_FIT, OnColumnsFit)
     ON_COMMAND(ID_COLUMNS_RESET, OnColumnsReset)
     ON_COMMAND(ID_COLUMNS_FREEZE, OnColumnsFreeze)
+    ON_COMMAND(ID_FILTER_SELECT, OnFilterSelect)
+    ON_COMMAND(ID_FILTER_EDIT, OnFilterEdit)
+    ON_COMMAND(ID_FILTER_DEFAULT, OnFilterDefault)
+    ON_COMMAND(ID_FILTER_DETACH, OnFilterDetach)
+    ON_COMMAND(ID_FILTER_USE, OnFilterUse)
+    ON_COMMAND_RANGE(ID_VIEW_TOP, ID_VIEW_BOTTOM, OnViewAlignment)
     ON_COMMAND(ID_VIEW_HORIZONTAL_LINES, OnViewHorizontalLines)
     ON_COMMAND(ID_VIEW_VERTICAL_LINES, OnViewVerticalLines)
     ON_COMMAND(ID_ENTER_IS_TAB, OnEnterIsTab)
@@ -57,6 +65,12 @@ BEGIN_MESSAGE_MAP(CChildFrame, CMDIChildWnd)
     ON_UPDATE_COMMAND_UI(ID_COLUMNS_ORDER, OnUpdateColumns)
     ON_UPDATE_COMMAND_UI(ID_COLUMNS_FREEZE, OnUpdateColumns)
     ON_UPDATE_COMMAND_UI(ID_COLUMNS_SHOW, OnUpdateFields)
+    ON_UPDATE_COMMAND_UI(ID_FILTER_SELECT, OnUpdateFields)
+    ON_UPDATE_COMMAND_UI(ID_FILTER_EDIT, OnUpdateFields)
+    ON_UPDATE_COMMAND_UI(ID_FILTER_DEFAULT, OnUpdateFields)
+    ON_UPDATE_COMMAND_UI(ID_FILTER_DETACH, OnUpdateFilterDetach)
+    ON_UPDATE_COMMAND_UI(ID_FILTER_USE, OnUpdateFilterUse)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_TOP, ID_VIEW_BOTTOM, OnUpdateAlignment)
     ON_UPDATE_COMMAND_UI(ID_VIEW_HORIZONTAL_LINES, OnUpdateHorizontalLines)
     ON_UPDATE_COMMAND_UI(ID_VIEW_VERTICAL_LINES, OnUpdateVerticalLines)
     ON_UPDATE_COMMAND_UI(ID_COLUMNS_RESET, OnUpdateReset)
@@ -67,6 +81,7 @@ BEGIN_MESSAGE_MAP(CChildFrame, CMDIChildWnd)
     ON_UPDATE_COMMAND_UI(ID_PANE_SELECTION, OnUpdateSelectionPane)
     ON_UPDATE_COMMAND_UI(ID_PANE_MODE, OnUpdateModePane)
     ON_UPDATE_COMMAND_UI(ID_PANE_MODIFIED, OnUpdateModifiedPane)
+    ON_UPDATE_COMMAND_UI(ID_PANE_FILTER, OnUpdateFilterPane)
 END_MESSAGE_MAP()
 
 int CChildFrame::OnCreate(LPCREATESTRUCT create) {
@@ -122,5 +137,11 @@ void CChildFrame::RefreshTitle() {
 // The menus ask when they open, the panes when there is nothing else to do.
 LRESULT CChildFrame::OnCommandsChanged(WPARAM, LPARAM) {
     RefreshTitle();
+    return 0;
+}
+
+LRESULT CChildFrame::OnOptionsChanged(WPARAM, LPARAM) {
+    m_editor.SetTextAlignment();
+    m_editor.RedrawAll();
     return 0;
 }

@@ -3,6 +3,7 @@
 
 #include <afxwin.h>
 
+#include "host/Resource.h"
 #include "host/TableEditor.h"
 
 class CChildFrame : public CMDIChildWnd {
@@ -24,6 +25,7 @@ protected:
     afx_msg void OnSetFocus(CWnd *old);
     afx_msg void OnClose();
     afx_msg LRESULT OnCommandsChanged(WPARAM, LPARAM);
+    afx_msg LRESULT OnOptionsChanged(WPARAM, LPARAM);
     afx_msg void OnFileClose();
     afx_msg void OnFileSave();
     afx_msg void OnFileSaveAs();
@@ -48,6 +50,12 @@ protected:
     afx_msg void OnColumnsFit();
     afx_msg void OnColumnsReset();
     afx_msg void OnColumnsFreeze();
+    afx_msg void OnFilterSelect();
+    afx_msg void OnFilterEdit();
+    afx_msg void OnFilterDefault();
+    afx_msg void OnFilterDetach();
+    afx_msg void OnFilterUse();
+    afx_msg void OnViewAlignment(UINT id);
     afx_msg void OnViewHorizontalLines();
     afx_msg void OnViewVerticalLines();
     afx_msg void OnEnterIsTab();
@@ -63,6 +71,9 @@ protected:
     afx_msg void OnUpdateDelete(CCmdUI *command);
     afx_msg void OnUpdateFindAgain(CCmdUI *command);
     afx_msg void OnUpdateGoto(CCmdUI *command);
+    afx_msg void OnUpdateFilterDetach(CCmdUI *command);
+    afx_msg void OnUpdateFilterUse(CCmdUI *command);
+    afx_msg void OnUpdateAlignment(CCmdUI *command);
     afx_msg void OnUpdateHorizontalLines(CCmdUI *command);
     afx_msg void OnUpdateVerticalLines(CCmdUI *command);
     afx_msg void OnUpdateColumns(CCmdUI *command);
@@ -75,8 +86,10 @@ protected:
     afx_msg void OnUpdateSelectionPane(CCmdUI *command);
     afx_msg void OnUpdateModePane(CCmdUI *command);
     afx_msg void OnUpdateModifiedPane(CCmdUI *command);
+    afx_msg void OnUpdateFilterPane(CCmdUI *command);
 
 private:
     CTableEditor m_editor;
     bool m_sourceWritable = true;
+    UINT m_alignment = ID_VIEW_TOP; // the command that set where texts stand in their cells
 };

@@ -120,6 +120,38 @@ void CChildFrame::OnColumnsFreeze() {
     m_editor.OnLockColumns();
 }
 
+void CChildFrame::OnFilterSelect() {
+    m_editor.SaveEditContents();
+    m_editor.OnSelectAttachFilter();
+}
+
+void CChildFrame::OnFilterEdit() {
+    m_editor.SaveEditContents();
+    m_editor.OnEditFilter();
+}
+
+void CChildFrame::OnFilterDefault() {
+    m_editor.SaveEditContents();
+    m_editor.OnAttachDefaultFilter();
+}
+
+void CChildFrame::OnFilterDetach() {
+    m_editor.OnDetachFilter();
+}
+
+void CChildFrame::OnFilterUse() {
+    m_editor.SetUseFilteredRecords(!m_editor.GetUseFilteredRecords());
+}
+
+// The vertical alignment goes with the grid's own horizontal one, so that the fields' is set again.
+void CChildFrame::OnViewAlignment(UINT id) {
+    constexpr char kWhere[] = {'t', 'm', 'b'};
+    m_alignment = id;
+    m_editor.VerticallyAlignGridField(kWhere[id - ID_VIEW_TOP]);
+    m_editor.SetTextAlignment();
+    m_editor.RedrawAll();
+}
+
 void CChildFrame::OnViewHorizontalLines() {
     m_editor.SetIsShowingHorizLines(!m_editor.IsShowingHorizLines());
 }
@@ -194,6 +226,19 @@ void CChildFrame::OnUpdateGoto(CCmdUI *command) {
     command->Enable(m_editor.IsOperationsValid());
 }
 
+void CChildFrame::OnUpdateFilterDetach(CCmdUI *command) {
+    command->Enable(m_editor.IsFilterAttached());
+}
+
+void CChildFrame::OnUpdateFilterUse(CCmdUI *command) {
+    command->Enable(m_editor.IsFilterAttached());
+    command->SetCheck(m_editor.GetUseFilteredRecords());
+}
+
+void CChildFrame::OnUpdateAlignment(CCmdUI *command) {
+    command->SetRadio(command->m_nID == m_alignment);
+}
+
 void CChildFrame::OnUpdateHorizontalLines(CCmdUI *command) {
     command->SetCheck(m_editor.IsShowingHorizLines());
 }
@@ -245,4 +290,16 @@ void CChildFrame::OnUpdateModifiedPane(CCmdUI *command) {
     command->Enable();
     command->SetText(m_editor.IsFileModified() ? "Modified" : "");
     RefreshTitle(); // a value that was refused leaves no change behind, and nobody else tells of that
+}
+
+void CChildFrame::OnUpdateFilterPane(CCmdUI *command) {
+    CString text;
+    if (m_editor.GetFilter() == kDefaultFilter)
+        text = "Default filter";
+    else if (m_editor.IsFilterAttached())
+        text.Format("Filter %d", m_editor.GetFilter());
+    if (m_editor.IsFilterAttached() && m_editor.GetUseFilteredRecords())
+        text += ", in use";
+    command->Enable();
+    command->SetText(text);
 }

@@ -47,6 +47,12 @@ BOOL CHostApp::OnIdle(LONG count) {
     return CWinApp::OnIdle(count);
 }
 
+// While a message waits for its answer nothing else is at work.
+int CHostApp::DoMessageBox(LPCTSTR prompt, UINT type, UINT helpId) {
+    m_service.LongWork().End();
+    return CWinApp::DoMessageBox(prompt, type, helpId);
+}
+
 // The one argument, with the quotes of a path that holds blanks taken off, as a full path.
 CString CHostApp::CommandLineFile() const {
     CString argument(m_lpCmdLine);

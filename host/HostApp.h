@@ -10,6 +10,7 @@ public:
     CHostApp();
     BOOL InitInstance() override;
     BOOL OnIdle(LONG count) override;
+    int DoMessageBox(LPCTSTR prompt, UINT type, UINT helpId) override;
     BOOL OpenRecentFile(LPCTSTR path) override;
 
     CHostService &Service() { return m_service; }

@@ -102,3 +102,10 @@ void CHostOptions::SetUndoLevels(int levels) {
     m_undoLevels = levels;
     Write("UndoLevels", levels);
 }
+
+void CHostOptions::SetRightJustifying(bool numbers, bool text) {
+    m_rightNumbers = numbers;
+    m_rightText = text;
+    Write("RightJustifyNumbers", numbers);
+    Write("RightJustifyText", text);
+}

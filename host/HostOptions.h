@@ -28,6 +28,7 @@ public:
     // What the library only reads.
     void SetColours(COLORREF text, COLORREF highlight);
     void SetUndoLevels(int levels);
+    void SetRightJustifying(bool numbers, bool text);
 
 private:
     LOGFONTA m_cellFont{};

@@ -6,7 +6,9 @@
 #include "host/ChildFrame.h"
 #include "host/FieldListDlg.h"
 #include "host/FileInformation.h"
+#include "host/FilterListDlg.h"
 #include "host/MainFrame.h"
+#include "host/Resource.h"
 #include "host/sources/DbfDataSource.h"
 
 #include <algorithm>
@@ -22,6 +24,12 @@ CTableEditor *ActiveEditor() {
     auto *frame = DYNAMIC_DOWNCAST(CMainFrame, AfxGetMainWnd());
     auto *child = frame != nullptr ? DYNAMIC_DOWNCAST(CChildFrame, frame->MDIGetActive()) : nullptr;
     return child != nullptr ? &child->Editor() : nullptr;
+}
+
+const dbf::Table *ActiveTable() {
+    CTableEditor *editor = ActiveEditor();
+    auto *source = editor != nullptr ? dynamic_cast<CDbfDataSource *>(editor->GetCurrentDataSrc(true)) : nullptr;
+    return source != nullptr ? source->GetTable() : nullptr;
 }
 
 } // namespace
@@ -47,14 +55,9 @@ void CHostService::GetAppTitle(CString &title) {
     title = AfxGetAppName();
 }
 
-// Escape stops what takes long. It is asked for every cell, and the keys are looked at now and then.
+// Asked for every cell.
 int CHostService::CheckAbort() {
-    constexpr ULONGLONG kLookEveryMs = 50;
-    const ULONGLONG now = ::GetTickCount64();
-    if (now - m_lastLook < kLookEveryMs)
-        return 0;
-    m_lastLook = now;
-    return (::GetAsyncKeyState(VK_ESCAPE) & 0x8000) != 0;
+    return m_longWork.Step() ? 0 : 1;
 }
 
 bool CHostService::MayClose(CDbfDataSource &source) {
@@ -79,6 +82,7 @@ CUGDataSource *CHostService::CreateDataSource(const char *) {
     hooks.message = [](const std::string &text) { AfxMessageBox(text.c_str(), MB_ICONEXCLAMATION); };
     hooks.mayClose = MayClose;
     hooks.mayOverwrite = MayOverwrite;
+    hooks.progress = [this](std::uint64_t done, std::uint64_t all) { return m_longWork.StepTo(done, all); };
     try {
         auto *source = new CDbfDataSource(hooks);
         source->SetRowsChangedHook([source] {
@@ -99,11 +103,14 @@ void CHostService::ShowFileInformation(CUGDataSource *source) {
 
 bool CHostService::PromptSaveAs(CString &name, bool *useFiltered, bool filterAttached) {
     CFileDialog dialog(FALSE, "dbf", name, OFN_HIDEREADONLY | OFN_PATHMUSTEXIST, kTableFilter, AfxGetMainWnd());
+    if (filterAttached)
+        dialog.AddCheckButton(IDC_FILTERED_ONLY, "Filtered &records only", *useFiltered);
     if (dialog.DoModal() != IDOK)
         return false;
     name = dialog.GetPathName();
-    if (filterAttached)
-        *useFiltered = AfxMessageBox("Save the filtered records only?", MB_YESNO | MB_ICONQUESTION) == IDYES;
+    BOOL checked = FALSE;
+    dialog.GetCheckButtonState(IDC_FILTERED_ONLY, checked);
+    *useFiltered = filterAttached && checked;
     return true;
 }
 
@@ -179,22 +186,37 @@ bool CHostService::EditLookupUserOptions(bool *, bool *, bool *, bool *, bool *,
 
 void CHostService::EditLookupAdminOptions(CLookupOptionsMgr *) {}
 
-bool CHostService::EditFilter(int, const char *) {
-    return false;
+bool CHostService::EditFilter(int number, const char *) {
+    const dbf::Table *table = ActiveTable();
+    return table != nullptr && CFilterListDlg::EditOne(*table, number, AfxGetMainWnd());
 }
 
-bool CHostService::SelectFilter(int *) {
-    return false;
+bool CHostService::SelectFilter(int *filterNumber) {
+    const dbf::Table *table = ActiveTable();
+    if (table == nullptr)
+        return false;
+    CFilterListDlg dialog(*table, ActiveEditor()->GetFilter(), AfxGetMainWnd());
+    if (!dialog.Load() || dialog.DoModal() != IDOK)
+        return false;
+    *filterNumber = dialog.GetChosen();
+    return true;
 }
 
 void CHostService::DoWaitCursor(int step) {
+    const bool waited = m_waits > 0;
     m_waits = std::max(m_waits + step, 0);
     AfxGetApp()->DoWaitCursor(step);
+    // After a question the library takes up the cursor again, having ended it before.
+    if ((m_waits > 0 && !waited) || (step == 0 && !m_longWork.IsAtWork()))
+        m_longWork.Begin();
+    else if (step < 0 && m_waits == 0)
+        m_longWork.End();
 }
 
 void CHostService::EndWaitCursor() {
     while (m_waits > 0)
         DoWaitCursor(-1);
+    m_longWork.End();
 }
 
 // In the status bar: it comes with work that was asked for, and nobody wants to answer it.

@@ -6,6 +6,7 @@
 #include "editorcore/AppInterface.h"
 #include "host/FindDlg.h"
 #include "host/HostOptions.h"
+#include "host/LongWork.h"
 
 class CDbfDataSource;
 
@@ -15,6 +16,7 @@ public:
     CHostOptions &Options() { return m_options; }
     // Takes back the wait cursor that a failed operation of the library left raised.
     void EndWaitCursor();
+    CLongWork &LongWork() { return m_longWork; }
 
     void SetEditorTitle(const char *path, const char *table, CEditorCore *editor) override;
     void OnGridHotKey() override;
@@ -56,6 +58,6 @@ private:
 
     CHostOptions m_options;
     CFindDlg m_findDlg;
-    ULONGLONG m_lastLook = 0; // milliseconds, at the keys
+    CLongWork m_longWork;
     int m_waits = 0; // wait cursors that the library has raised
 };

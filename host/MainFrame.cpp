@@ -12,7 +12,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CMDIFrameWnd)
     ON_WM_CLOSE()
     ON_WM_DROPFILES()
     ON_COMMAND(ID_VIEW_OPTIONS, OnViewOptions)
-    ON_UPDATE_COMMAND_UI_RANGE(ID_PANE_RECORD, ID_PANE_SELECTION, OnUpdateEmptyPane)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_PANE_RECORD, ID_PANE_FILTER, OnUpdateEmptyPane)
 END_MESSAGE_MAP()
 
 namespace {
@@ -25,7 +25,7 @@ struct Pane {
 };
 
 constexpr Pane kPanes[] = {
-    {ID_SEPARATOR, 0}, {ID_PANE_RECORD, 190}, {ID_PANE_SELECTION, 120}, {ID_PANE_FIELD, 260}, {ID_PANE_MODE, 90}, {ID_PANE_MODIFIED, 80}};
+    {ID_SEPARATOR, 0}, {ID_PANE_RECORD, 190}, {ID_PANE_SELECTION, 120}, {ID_PANE_FIELD, 260}, {ID_PANE_MODE, 90}, {ID_PANE_MODIFIED, 80}, {ID_PANE_FILTER, 130}};
 
 } // namespace
 
@@ -111,7 +111,8 @@ void CMainFrame::OnDropFiles(HDROP drop) {
 }
 
 void CMainFrame::OnViewOptions() {
-    COptionsDlg(GetHostApp()->Service().Options(), this).DoModal();
+    if (COptionsDlg(GetHostApp()->Service().Options(), this).DoModal() == IDOK)
+        SendMessageToDescendants(kMsgOptionsChanged, 0, 0);
 }
 
 // With no table open the panes are empty; an active child answers before the frame is asked.

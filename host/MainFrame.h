@@ -7,6 +7,9 @@
 // What the open and save-as dialogs offer.
 constexpr const char *kTableFilter = "Tables (*.dbf)|*.dbf|All files (*.*)|*.*||";
 
+// To every window below the frame: the options are others now.
+constexpr UINT kMsgOptionsChanged = WM_APP + 1;
+
 class CMainFrame : public CMDIFrameWnd {
     DECLARE_DYNAMIC(CMainFrame)
 

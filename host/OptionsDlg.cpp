@@ -29,7 +29,8 @@ CString DescribeFont(const LOGFONTA &font) {
 COptionsDlg::COptionsDlg(CHostOptions &options, CWnd *parent)
     : CDialog(IDD_OPTIONS, parent), m_options(options), m_textColour(options.GetCellTextColour()),
       m_highlightColour(options.GetCellHighlightColour()), m_undoLevels(options.GetUndoLevels()),
-      m_enterIsTab(options.IsEnterKeyTab()) {
+      m_enterIsTab(options.IsEnterKeyTab()), m_rightNumbers(options.IsRightJustifyingNumbers()),
+      m_rightText(options.IsRightJustifyingText()) {
     options.GetCellFont(&m_cellFont);
     options.GetHeadingFont(&m_headingFont);
 }
@@ -45,6 +46,8 @@ void COptionsDlg::DoDataExchange(CDataExchange *exchange) {
     DDX_Text(exchange, IDC_UNDO_LEVELS, m_undoLevels);
     DDV_MinMaxInt(exchange, m_undoLevels, 0, kMostUndoLevels);
     DDX_Check(exchange, IDC_ENTER_IS_TAB, m_enterIsTab);
+    DDX_Check(exchange, IDC_RIGHT_NUMBERS, m_rightNumbers);
+    DDX_Check(exchange, IDC_RIGHT_TEXT, m_rightText);
 }
 
 void COptionsDlg::ShowFonts() {
@@ -71,6 +74,7 @@ void COptionsDlg::OnOK() {
         return;
     m_options.SetColours(m_textColour, m_highlightColour);
     m_options.SetUndoLevels(m_undoLevels);
+    m_options.SetRightJustifying(m_rightNumbers != FALSE, m_rightText != FALSE);
     CEditorCore::SetEnterKey(m_enterIsTab != FALSE);
     CEditorCore::SetFonts(m_cellFont, m_headingFont);
     EndDialog(IDOK);

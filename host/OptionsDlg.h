@@ -32,4 +32,6 @@ private:
     COLORREF m_highlightColour;
     int m_undoLevels;
     BOOL m_enterIsTab;
+    BOOL m_rightNumbers;
+    BOOL m_rightText;
 };

@@ -32,6 +32,9 @@ public:
     CString GetFileTitle() const; // name
     CString GetFolderPath() const;
     BOOL GetReadOnlyPref() const { return (m_ofn.Flags & OFN_READONLY) != 0; }
+    // Check boxes below the list of files, added before DoModal; their state can be asked for after it.
+    HRESULT AddCheckButton(DWORD id, const CString &label, BOOL checked);
+    HRESULT GetCheckButtonState(DWORD id, BOOL &checked);
     // The chosen files of a dialog with OFN_ALLOWMULTISELECT.
     POSITION GetStartPosition() const;
     CString GetNextPathName(POSITION &position) const;
@@ -42,6 +45,19 @@ protected:
     BOOL m_bOpenFileDialog;
     CString m_strFilter;
     char m_szFileName[MAX_PATH * 32];
+
+private:
+    struct CheckButton {
+        DWORD id;
+        CString label;
+        BOOL checked;
+    };
+    void MakeButtonTemplate();
+    void ReadButtons(HWND dialog);
+    static UINT_PTR CALLBACK ButtonsHook(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+
+    CArray<CheckButton, CheckButton &> m_buttons;
+    CArray<WORD, WORD> m_buttonTemplate; // a dialog template in memory
 };
 
 class ORVANEFW_API CColorDialog : public CCommonDialog {

@@ -35,7 +35,106 @@ CFileDialog::CFileDialog(BOOL openFile, LPCTSTR defaultExtension, LPCTSTR fileNa
         m_ofn.lpstrFilter = m_strFilter;
 }
 
+HRESULT CFileDialog::AddCheckButton(DWORD id, const CString &label, BOOL checked) {
+    CheckButton button{id, label, checked};
+    m_buttons.Add(button);
+    return S_OK;
+}
+
+HRESULT CFileDialog::GetCheckButtonState(DWORD id, BOOL &checked) {
+    for (int i = 0; i < m_buttons.GetSize(); ++i) {
+        if (m_buttons[i].id == id) {
+            checked = m_buttons[i].checked;
+            return S_OK;
+        }
+    }
+    return E_INVALIDARG;
+}
+
+namespace {
+
+// A dialog template as it lies in memory, in words.
+class TemplateWriter {
+public:
+    explicit TemplateWriter(CArray<WORD, WORD> &words) : m_words(words) {}
+
+    void Word(DWORD value) { m_words.Add(static_cast<WORD>(value)); }
+    void Long(DWORD value) {
+        Word(LOWORD(value));
+        Word(HIWORD(value));
+    }
+    void Text(const CString &text) {
+        WCHAR wide[256];
+        const int length = ::MultiByteToWideChar(CP_ACP, 0, text, -1, wide, int(std::size(wide)));
+        for (int i = 0; i < length - 1; ++i)
+            Word(wide[i]);
+        Word(0);
+    }
+    void AlignToLong() {
+        if (m_words.GetSize() % 2 != 0)
+            Word(0);
+    }
+
+private:
+    CArray<WORD, WORD> &m_words;
+};
+
+constexpr int kButtonHeight = 12, kButtonLeft = 62, kButtonWidth = 220; // dialog units
+
+} // namespace
+
+// The part of the dialog that is the caller's: one check box below the other, where the names of files begin.
+void CFileDialog::MakeButtonTemplate() {
+    constexpr WORD kButtonClass = 0x0080;
+    const int count = int(m_buttons.GetSize());
+    m_buttonTemplate.RemoveAll();
+    TemplateWriter out(m_buttonTemplate);
+    out.Long(WS_CHILD | WS_CLIPSIBLINGS | DS_3DLOOK | DS_CONTROL);
+    out.Long(0);
+    for (int value : {count, 0, 0, kButtonLeft + kButtonWidth, count * kButtonHeight + 4, 0, 0, 0})
+        out.Word(DWORD(value)); // controls, place and size, no menu, class or title
+    for (int i = 0; i < count; ++i) {
+        out.AlignToLong();
+        out.Long(WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_AUTOCHECKBOX);
+        out.Long(0);
+        for (int value : {kButtonLeft, i * kButtonHeight, kButtonWidth, kButtonHeight})
+            out.Word(DWORD(value));
+        out.Word(m_buttons[i].id);
+        out.Word(0xFFFF);
+        out.Word(kButtonClass);
+        out.Text(m_buttons[i].label);
+        out.Word(0);
+    }
+}
+
+void CFileDialog::ReadButtons(HWND dialog) {
+    for (int i = 0; i < m_buttons.GetSize(); ++i)
+        m_buttons[i].checked = ::IsDlgButtonChecked(dialog, int(m_buttons[i].id)) == BST_CHECKED;
+}
+
+UINT_PTR CALLBACK CFileDialog::ButtonsHook(HWND dialog, UINT message, WPARAM, LPARAM lParam) {
+    if (message == WM_INITDIALOG) {
+        auto *self = reinterpret_cast<CFileDialog *>(reinterpret_cast<OPENFILENAME *>(lParam)->lCustData);
+        ::SetWindowLongPtr(dialog, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
+        for (int i = 0; i < self->m_buttons.GetSize(); ++i) {
+            ::SendDlgItemMessage(dialog, int(self->m_buttons[i].id), WM_SETFONT,
+                                 ::SendMessage(::GetParent(dialog), WM_GETFONT, 0, 0), TRUE);
+            ::CheckDlgButton(dialog, int(self->m_buttons[i].id), self->m_buttons[i].checked ? BST_CHECKED : 0);
+        }
+    } else if (message == WM_NOTIFY && reinterpret_cast<NMHDR *>(lParam)->code == CDN_FILEOK) {
+        reinterpret_cast<CFileDialog *>(::GetWindowLongPtr(dialog, GWLP_USERDATA))->ReadButtons(dialog);
+    }
+    return 0;
+}
+
 INT_PTR CFileDialog::DoModal() {
+    if (m_buttons.GetSize() > 0) {
+        MakeButtonTemplate();
+        m_ofn.Flags |= OFN_ENABLEHOOK | OFN_ENABLETEMPLATEHANDLE;
+        m_ofn.hInstance = reinterpret_cast<HINSTANCE>(m_buttonTemplate.GetData());
+        m_ofn.lCustData = reinterpret_cast<LPARAM>(this);
+        m_ofn.lpfnHook = ButtonsHook;
+    }
     const BOOL chosen = ShowModal([this](HWND owner) {
         m_ofn.hwndOwner = owner;
         return m_bOpenFileDialog ? ::GetOpenFileName(&m_ofn) : ::GetSaveFileName(&m_ofn);

@@ -10,6 +10,7 @@ LAST_NAME = 2
 class Find(sessions.Session):
     def setUp(self):
         super().setUp()
+        sessions.forget("Find")
         self.open_staff()
         self.before = records(self.path)[1:]
 

@@ -36,6 +36,12 @@ def bytes_of(path):
         return file.read()
 
 
+def forget(section):
+    """Takes back what the host keeps in a section of its settings."""
+    subprocess.run(["/usr/lib/wine/wine64", "reg", "delete", rf"HKCU\Software\Orvane\Orvane Tables\{section}", "/f"],
+                   env=hostdriver.environment(), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+
 class Cells:
     """Where the cells of the grid in front stand on the screen, learnt from the box that edits the current cell."""
 
