@@ -2,7 +2,9 @@
 
 #include "lookup/CodePage.h"
 
+#include <array>
 #include <cstring>
+#include <numeric>
 
 namespace {
 
@@ -33,11 +35,13 @@ int CompareCodes(LPCSTR left, LPCSTR right, bool bCaseSensitive) {
     return (*left != '\0') - (*right != '\0');
 }
 
-int CompareCodeBytes(char left, char right, bool bCaseSensitive) {
-    if (bCaseSensitive)
-        return Byte(left) - Byte(right);
-    const CodePageTables &page = CodePage();
-    return page.folded[Byte(left)] - page.folded[Byte(right)];
+const unsigned char *CodeByteRanks(bool bCaseSensitive) {
+    static const auto asTheyAre = [] {
+        std::array<unsigned char, 256> ranks;
+        std::iota(ranks.begin(), ranks.end(), static_cast<unsigned char>(0));
+        return ranks;
+    }();
+    return bCaseSensitive ? asTheyAre.data() : CodePage().folded;
 }
 
 bool IsSameStart(LPCSTR left, LPCSTR right, int length, bool bCaseSensitive) {

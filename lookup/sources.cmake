@@ -3,9 +3,12 @@ set(LOOKUP_MODEL_SOURCES
     Archive.cpp
     ArchiveArrays.cpp
     CodeCompare.cpp
+    LookupNode.cpp
+    LookupTree.cpp
     MenuList.cpp
     MenuPaths.cpp
     MenuTree.cpp
+    PoolCodes.cpp
     PoolText.cpp
     TreePool.cpp
 )

@@ -1,6 +1,7 @@
 // What the tests of lookup tables share: an application object that notes message boxes, trees as text.
 #pragma once
 
+#include "lookup/LookupTree.h"
 #include "lookup/MenuTree.h"
 
 #include <afxwin.h>
@@ -63,5 +64,23 @@ inline std::string Joined(const CStringArray &array) {
     std::string text;
     for (int i = 0; i < array.GetSize(); ++i)
         text += (i == 0 ? "" : "|") + std::string(array[i]);
+    return text;
+}
+
+// "a*{ab}(b c)": '*' a complete code ends, the code list in braces, '~' no single path, children in brackets.
+inline std::string TrieText(const CLookupNode &node) {
+    std::string text;
+    for (unsigned i = 0; i < node.GetChildCount(); ++i) {
+        const CLookupNode &child = *node.GetChild(i);
+        text += (i == 0 ? "" : " ") + std::string(1, static_cast<char>(child.m_cChar));
+        text += child.m_bEndOfCode ? "*" : "";
+        text += child.m_bSinglePath ? "" : "~";
+        CStringArray codes;
+        child.GetCodeList().CopyTo(codes);
+        if (codes.GetSize() > 0)
+            text += "{" + Joined(codes) + "}";
+        if (child.GetChildCount() > 0)
+            text += "(" + TrieText(child) + ")";
+    }
     return text;
 }

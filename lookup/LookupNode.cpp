@@ -1,0 +1,134 @@
+#include "lookup/LookupNode.h"
+
+#include <bit>
+#include <cstring>
+#include <new>
+#include <type_traits>
+
+namespace {
+
+constexpr unsigned kSearchedInNodes = 4; // children; above, their characters stand side by side as well
+constexpr unsigned kMostChildren = 0x7FFFFFFF;
+
+size_t RoundUp(size_t bytes) {
+    return (bytes + 7) & ~static_cast<size_t>(7);
+}
+
+} // namespace
+
+static_assert(sizeof(CLookupNode) == 16 || sizeof(void *) != 8);
+static_assert(std::is_trivially_copyable_v<CLookupNode> && std::is_trivially_destructible_v<CLookupNode>);
+
+// Grows by about a quarter, so that a node that gets its children one by one is not moved for each.
+unsigned CLookupNode::CapacityFor(unsigned children) {
+    if (children <= kSearchedInNodes)
+        return children;
+    const unsigned quarter = std::bit_floor(children - 1) / 4;
+    const unsigned step = quarter < 2 ? 2 : quarter;
+    return (children + step - 1) / step * step;
+}
+
+CLookupNode::Shape CLookupNode::ShapeFor(bool hasList, unsigned children) {
+    const unsigned capacity = CapacityFor(children);
+    Shape shape;
+    shape.characters = hasList ? sizeof(const char *) : 0;
+    shape.nodes = shape.characters + (capacity > kSearchedInNodes ? RoundUp(capacity) : 0);
+    shape.end = shape.nodes + capacity * sizeof(CLookupNode);
+    return shape;
+}
+
+unsigned CLookupNode::FindPosition(char character, const unsigned char *ranks, bool *found) const {
+    const unsigned char wanted = ranks[static_cast<unsigned char>(character)];
+    const bool apart = m_nChildren > kSearchedInNodes;
+    const char *at = apart ? Characters() : reinterpret_cast<const char *>(&Nodes()->m_cChar);
+    const size_t stride = apart ? 1 : sizeof(CLookupNode);
+    unsigned first = 0, behind = m_nChildren;
+    while (first < behind) {
+        const unsigned middle = first + (behind - first - 1) / 2;
+        const unsigned char rank = ranks[static_cast<unsigned char>(at[middle * stride])];
+        if (rank == wanted) {
+            *found = true;
+            return middle;
+        }
+        (rank < wanted ? first : behind) = rank < wanted ? middle + 1 : middle;
+    }
+    *found = false;
+    return first;
+}
+
+const CLookupNode *CLookupNode::FindChild(char character, const unsigned char *ranks) const {
+    if (m_nChildren == 0)
+        return nullptr;
+    bool found;
+    const unsigned position = FindPosition(character, ranks, &found);
+    return found ? Nodes() + position : nullptr;
+}
+
+// Changes the number of children and the place for a list. New children are blank: in front of the child `gap` when
+// there is one more, and all of them when there were none.
+void CLookupNode::Reshape(CTreePool &pool, bool hasList, unsigned children, unsigned gap) {
+    if (children > kMostChildren)
+        AfxThrowMemoryException();
+    const Shape before = Now(), after = ShapeFor(hasList, children);
+    const unsigned old = m_nChildren, behind = old - gap, added = children - old;
+    char *body = m_pBody;
+    const bool moves = hasList != m_bHasList || before.end != after.end;
+    if (moves) {
+        body = static_cast<char *>(pool.Allocate(after.end));
+        if (hasList)
+            *reinterpret_cast<const char **>(body) = m_bHasList ? *reinterpret_cast<const char **>(m_pBody) : nullptr;
+    }
+    auto *nodes = reinterpret_cast<CLookupNode *>(body + after.nodes);
+    const auto *oldNodes = reinterpret_cast<const CLookupNode *>(m_pBody + before.nodes);
+    if (old > 0) {
+        std::memmove(static_cast<void *>(nodes + gap + added), oldNodes + gap, behind * sizeof(CLookupNode));
+        if (moves)
+            std::memcpy(static_cast<void *>(nodes), oldNodes, gap * sizeof(CLookupNode));
+    }
+    for (unsigned i = gap; i < gap + added; ++i)
+        new (nodes + i) CLookupNode;
+    if (moves && m_pBody != nullptr)
+        pool.Release(m_pBody, before.end);
+    m_pBody = body;
+    m_nChildren = children;
+    m_bHasList = hasList;
+    if (children > kSearchedInNodes) {
+        for (unsigned i = moves ? 0 : gap; i < children; ++i)
+            Characters()[i] = static_cast<char>(nodes[i].m_cChar);
+    }
+}
+
+CLookupNode *CLookupNode::AddChild(CTreePool &pool, char character, const unsigned char *ranks) {
+    bool found = false;
+    const unsigned position = m_nChildren > 0 ? FindPosition(character, ranks, &found) : 0;
+    if (!found) {
+        Reshape(pool, m_bHasList, m_nChildren + 1, position);
+        SetChildCharacter(position, character);
+    }
+    return Nodes() + position;
+}
+
+void CLookupNode::MakeChildren(CTreePool &pool, unsigned count) {
+    Reshape(pool, m_bHasList, count, 0);
+}
+
+void CLookupNode::SetChildCharacter(unsigned index, char character) {
+    Nodes()[index].m_cChar = static_cast<signed char>(character);
+    if (m_nChildren > kSearchedInNodes)
+        Characters()[index] = character;
+}
+
+CPoolCodes CLookupNode::GetCodeList() const {
+    return m_bHasList ? CPoolCodes(*reinterpret_cast<const char **>(m_pBody)) : CPoolCodes();
+}
+
+void CLookupNode::SetCodeList(CTreePool &pool, CPoolCodes codes) {
+    if (!m_bHasList && codes.GetPacked() != nullptr)
+        Reshape(pool, true, m_nChildren, m_nChildren);
+    if (m_bHasList)
+        *reinterpret_cast<const char **>(m_pBody) = codes.GetPacked();
+}
+
+void CLookupNode::Forget() {
+    *this = CLookupNode();
+}
