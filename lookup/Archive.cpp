@@ -166,8 +166,7 @@ unsigned CArchive::ReadCount() {
     return static_cast<unsigned>(large);
 }
 
-CArchive &CArchive::operator<<(const CString &text) {
-    const auto length = static_cast<unsigned>(text.GetLength());
+void CArchive::WriteText(LPCSTR text, unsigned length) {
     if (length < kLongString) {
         *this << static_cast<BYTE>(length);
     } else if (length < kWideMark) {
@@ -175,7 +174,11 @@ CArchive &CArchive::operator<<(const CString &text) {
     } else {
         *this << kLongString << kLongerString << static_cast<int>(length);
     }
-    Write(static_cast<LPCSTR>(text), length);
+    Write(text, length);
+}
+
+CArchive &CArchive::operator<<(const CString &text) {
+    WriteText(text, static_cast<unsigned>(text.GetLength()));
     return *this;
 }
 

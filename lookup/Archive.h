@@ -38,6 +38,8 @@ public:
     CArchive &operator<<(WORD value);
     CArchive &operator<<(int value); // four bytes
     CArchive &operator<<(const CString &text);
+    // A string field.
+    void WriteText(LPCSTR text, unsigned length);
     CArchive &operator>>(BYTE &value);
     CArchive &operator>>(WORD &value);
     CArchive &operator>>(int &value);

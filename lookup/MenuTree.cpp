@@ -53,18 +53,33 @@ void CMenuTree::TakeWidths(const CMenuWidths &widths) {
     m_nMaxTotal = std::max(m_nMaxTotal, widths.total);
 }
 
-CMenuTree *CMenuTree::NewNode(LPCSTR code, unsigned codeBytes, LPCSTR description, unsigned descriptionBytes,
-                              int order) {
-    CTreePool &pool = Store().pool;
-    auto *node = new (pool.Allocate(sizeof(CMenuTree))) CMenuTree(m_pStore);
-    node->m_sCode = CPoolText(pool, code, codeBytes);
-    node->m_sDescription = CPoolText(pool, description, descriptionBytes);
+CMenuTree *CMenuTree::NewNode(LPCSTR code, LPCSTR description, int order) {
+    auto *node = new (Store().pool.Allocate(sizeof(CMenuTree))) CMenuTree(m_pStore);
+    node->SetCode(code, Length(code));
+    node->SetDescription(description, Length(description));
     node->m_nSourceOrder = order;
     return node;
 }
 
-CMenuList *CMenuTree::NewList() {
-    return new (Store().pool.Allocate(sizeof(CMenuList))) CMenuList;
+CMenuList *CMenuTree::NewList(int room) {
+    CTreePool &pool = Store().pool;
+    auto *list = new (pool.Allocate(sizeof(CMenuList))) CMenuList;
+    list->Reserve(pool, room);
+    return list;
+}
+
+CMenuTree *CMenuTree::AppendNew(CMenuList *list) {
+    auto *node = new (Store().pool.Allocate(sizeof(CMenuTree))) CMenuTree(m_pStore);
+    list->InsertAt(m_pStore->pool, list->GetSize(), node);
+    return node;
+}
+
+void CMenuTree::SetCode(LPCSTR text, unsigned bytes) {
+    m_sCode = CPoolText(Store().pool, text, bytes);
+}
+
+void CMenuTree::SetDescription(LPCSTR text, unsigned bytes) {
+    m_sDescription = CPoolText(Store().pool, text, bytes);
 }
 
 CMenuTree *CMenuTree::InsertChild(LPCSTR code, LPCSTR description, int order, bool bCaseSensitive) {
@@ -80,7 +95,7 @@ CMenuTree *CMenuTree::InsertChild(LPCSTR code, LPCSTR description, int order, bo
 }
 
 CMenuTree *CMenuTree::LinkChild(LPCSTR code, LPCSTR description, int order, bool bCaseSensitive) {
-    CMenuTree *node = NewNode(code, Length(code), description, Length(description), order);
+    CMenuTree *node = NewNode(code, description, order);
     if (m_pChildren == nullptr)
         m_pChildren = NewList();
     const int position = HasChildren() ? FindChild(node->m_sCode, bCaseSensitive) : 0;

@@ -45,11 +45,15 @@ public:
     // CMemoryException.
     void CollectPaths(const CStringArrayEx &path, CArray<CStringArrayEx> &paths) const;
 
-    // A node and a list in this tree's memory, for the parts of a tree of shared lists; neither is linked. They throw
-    // CMemoryException, and so do AddToList and AddSharedList.
-    CMenuTree *NewNode(LPCSTR code, unsigned codeBytes, LPCSTR description, unsigned descriptionBytes, int order);
-    CMenuList *NewList();
+    // Parts of a tree in this tree's memory, none of them linked to a node yet. They throw CMemoryException, and so
+    // does AddSharedList.
+    CMenuTree *NewNode(LPCSTR code, LPCSTR description, int order);
+    CMenuList *NewList(int room = 0);
+    // In sorted position, as InsertChild does, and at the end.
     void AddToList(CMenuList *list, CMenuTree *node, bool bCaseSensitive);
+    CMenuTree *AppendNew(CMenuList *list);
+    void SetCode(LPCSTR text, unsigned bytes);
+    void SetDescription(LPCSTR text, unsigned bytes);
     // Root only: the index of the list in the table. The root's widths become those of the longest in all lists.
     int AddSharedList(CMenuList *list);
     // Makes the list the children, and gives the node the list's widths.

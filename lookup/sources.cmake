@@ -4,13 +4,16 @@ set(LOOKUP_MODEL_SOURCES
     ArchiveArrays.cpp
     CodeCompare.cpp
     LookupNode.cpp
+    LookupTableFile.cpp
     LookupTree.cpp
     MenuList.cpp
     MenuPaths.cpp
+    MenuSection.cpp
     MenuTree.cpp
     PoolCodes.cpp
     PoolText.cpp
     TreePool.cpp
+    TrieSection.cpp
 )
 set(LOOKUP_NATIVE_SOURCES CodePage_posix.cpp WideText_posix.cpp)
 set(LOOKUP_WINDOW_SOURCES CodePage_win.cpp WideText_win.cpp)

@@ -172,7 +172,7 @@ protected:
     CMenuList *List(std::initializer_list<const char *> codes, CMenuList *below, int belowIndex) {
         CMenuList *list = m_root.NewList();
         for (const char *code : codes) {
-            CMenuTree *node = m_root.NewNode(code, static_cast<unsigned>(strlen(code)), "dd", 2, 0);
+            CMenuTree *node = m_root.NewNode(code, "dd", 0);
             node->m_bShared = true;
             if (below != nullptr)
                 node->SetSharedChildren(below, belowIndex);
