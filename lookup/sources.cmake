@@ -5,6 +5,9 @@ set(LOOKUP_MODEL_SOURCES
     CodeCompare.cpp
     LookupNode.cpp
     LookupTableFile.cpp
+    LookupTableFileCompiler.cpp
+    LookupTableFileCompiler_Levels.cpp
+    LookupTableFileCompiler_Outline.cpp
     LookupTree.cpp
     MenuList.cpp
     MenuPaths.cpp
