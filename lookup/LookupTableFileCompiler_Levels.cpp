@@ -7,8 +7,7 @@
 
 bool CLookupTableFileCompiler::BuildLevels(int &errorCol, long &errorRow, CString &errorText) {
     try {
-        if (!ReadLevels(errorCol, errorRow, errorText))
-            return false;
+        return ReadLevels(errorCol, errorRow, errorText) && Finish(errorText);
     } catch (CUserException *e) {
         e->Delete(); // the text of the failed read stands
         return false;
@@ -16,7 +15,6 @@ bool CLookupTableFileCompiler::BuildLevels(int &errorCol, long &errorRow, CStrin
         AfxMessageBox("Out of memory!", MB_ICONHAND, 0);
         throw;
     }
-    return Finish(errorText);
 }
 
 // From the last level up, so that each list is there when the nodes above it are made.

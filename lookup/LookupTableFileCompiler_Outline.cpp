@@ -83,14 +83,12 @@ bool CLookupTableFileCompiler::ParseRow(RowRules rules, long row, int columns, C
 
 bool CLookupTableFileCompiler::BuildOutline(int &errorCol, long &errorRow, CString &errorText) {
     try {
-        if (!ReadOutline(errorCol, errorRow, errorText))
-            return false;
+        return ReadOutline(errorCol, errorRow, errorText) && Finish(errorText);
     } catch (CMemoryException *e) {
         e->Delete();
         AfxMessageBox("Out of memory!", MB_ICONHAND, 0);
         return false;
     }
-    return Finish(errorText);
 }
 
 bool CLookupTableFileCompiler::ReadOutline(int &errorCol, long &errorRow, CString &errorText) {

@@ -8,7 +8,7 @@
 
 class CTreePool;
 
-class CPoolCodes {
+class ORVANE_API CPoolCodes {
 public:
     CPoolCodes() = default; // none
     explicit CPoolCodes(const char *packed) : m_pPacked(packed) {}
@@ -23,7 +23,7 @@ public:
     bool AreFirstOf(const CStringArray &codes, int count, bool bCaseSensitive) const;
 
     // Goes through the codes.
-    class Reader {
+    class ORVANE_API Reader {
     public:
         explicit Reader(const CPoolCodes &codes);
         bool IsAtEnd() const { return m_left == 0; }

@@ -1,0 +1,83 @@
+// Lookup tables cut and changed at random: read without harm, and without memory that their size does not justify.
+#include "tests/fuzz/LookupFuzz.h"
+
+#include "AllocationMeter.h"
+#include "LookupExamples.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <random>
+
+namespace {
+
+constexpr unsigned kSeed = 31;
+
+bool Exercise(const std::string &bytes) {
+    return ExerciseLookup(reinterpret_cast<const std::uint8_t *>(bytes.data()), bytes.size());
+}
+
+// One file of each kind, and one whose menu refers to lists upwards and downwards.
+std::vector<std::string> Examples() {
+    const std::string node = std::string(18, '\0');
+    const std::string lists = ExampleFront() + Bytes("02 00 00 00 01 00 00 00") +
+                              Bytes("03 00 00 00 01 00 00 00 02 00 00 00 01 00 00 00") +
+                              Bytes("01 00 00 00") + node + Bytes("FF FF FF FF") + node + Bytes("02 00 00 00") + node +
+                              Bytes("FF FF FF FF") + node + Bytes("00 00 00 00") + node + ExampleTrie();
+    std::string old = PlainExample();
+    old.replace(16, 8, Bytes("01 00 00 00"));
+    return {PlainExample(), SharedExample(), lists, old};
+}
+
+// Overwrites, inserts, removes and repeats bytes; numbers that lie are what it likes best.
+std::string Mutate(std::string bytes, std::mt19937 &random) {
+    static const std::string numbers[] = {Bytes("FF FF FF 7F"), Bytes("FF FF FF FF"), Bytes("00 00 00 00"),
+                                          Bytes("01 00 00 00"), Bytes("02 00 00 00"), Bytes("10 00 00 00"),
+                                          Bytes("FF FE FF 04"), Bytes("00 00 00 80")};
+    const auto below = [&](size_t bound) { return bound == 0 ? 0 : random() % bound; };
+    for (size_t changes = 1 + below(4); changes > 0; --changes) {
+        const size_t at = below(bytes.size());
+        switch (below(7)) {
+        case 0: bytes[at] = static_cast<char>(random()); break;
+        case 1: bytes[at] = static_cast<char>(below(4)); break;
+        case 2: bytes.replace(at, std::min<size_t>(4, bytes.size() - at), numbers[below(std::size(numbers))]); break;
+        case 3: bytes.insert(at, 1 + below(8), static_cast<char>(random())); break;
+        case 4: bytes.erase(at, 1 + below(8)); break;
+        case 5: bytes.insert(at, numbers[below(std::size(numbers))]); break;
+        default: bytes.insert(at, bytes.substr(below(bytes.size()), below(60))); break;
+        }
+        if (bytes.empty())
+            bytes = "\x04";
+    }
+    return bytes;
+}
+
+TEST(LookupDamageTest, AFileCutAtEveryLengthIsRefused) {
+    for (const std::string &whole : Examples()) {
+        EXPECT_TRUE(Exercise(whole));
+        for (size_t length = 0; length < whole.size(); ++length)
+            EXPECT_FALSE(Exercise(whole.substr(0, length))) << length;
+    }
+}
+
+// ORVANE_MUTATIONS sets another number.
+TEST(LookupDamageTest, ManyMutatedFilesTakeNoMoreMemoryThanTheirSizeJustifies) {
+    constexpr long kBesides = 32 << 10; // the archive's buffers, and the first blocks of the pools
+    constexpr long kTimesSize = 64;     // 22 bytes in the file are a node of 80 with its lists, in two tables
+    const char *wanted = std::getenv("ORVANE_MUTATIONS");
+    const long count = wanted != nullptr ? std::atol(wanted) : 30000;
+    std::mt19937 random(kSeed);
+    const std::vector<std::string> examples = Examples();
+    long tables = 0;
+    for (long i = 0; i < count; ++i) {
+        const std::string bytes = Mutate(examples[static_cast<size_t>(i) % examples.size()], random);
+        AllocationMeter meter;
+        tables += Exercise(bytes);
+        ASSERT_LT(meter.Peak(), kBesides + kTimesSize * static_cast<long>(bytes.size()))
+            << "seed " << kSeed << ", file " << i << ": " << Hex(bytes);
+    }
+    std::printf("%ld of %ld are tables\n", tables, count);
+    EXPECT_GT(tables, count / 20); // else the mutations only try the first check
+}
+
+} // namespace
