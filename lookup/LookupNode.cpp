@@ -1,9 +1,12 @@
 #include "lookup/LookupNode.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 #include <new>
 #include <type_traits>
+
+#include <xmmintrin.h>
 
 namespace {
 
@@ -12,6 +15,15 @@ constexpr unsigned kMostChildren = 0x7FFFFFFF;
 
 size_t RoundUp(size_t bytes) {
     return (bytes + 7) & ~static_cast<size_t>(7);
+}
+
+constexpr size_t kLineBytes = 64; // of the processor's cache
+
+// A step down waits for memory. The lines behind the first are asked for together with it: those of the children, of
+// whom it is not known yet which it will be, or the tail of a code, whose nodes follow each other.
+void AskForMemory(const char *body, size_t bytes) {
+    for (size_t at = kLineBytes; at <= std::max(bytes, kLineBytes); at += kLineBytes)
+        _mm_prefetch(body + at, _MM_HINT_T0);
 }
 
 } // namespace
@@ -24,8 +36,8 @@ unsigned CLookupNode::CapacityFor(unsigned children) {
     if (children <= kSearchedInNodes)
         return children;
     const unsigned quarter = std::bit_floor(children - 1) / 4;
-    const unsigned step = quarter < 2 ? 2 : quarter;
-    return (children + step - 1) / step * step;
+    const unsigned step = quarter < 2 ? 2 : quarter; // a power of two
+    return (children + step - 1) & ~(step - 1);
 }
 
 CLookupNode::Shape CLookupNode::ShapeFor(bool hasList, unsigned children) {
@@ -37,31 +49,35 @@ CLookupNode::Shape CLookupNode::ShapeFor(bool hasList, unsigned children) {
     return shape;
 }
 
-unsigned CLookupNode::FindPosition(char character, const unsigned char *ranks, bool *found) const {
-    const unsigned char wanted = ranks[static_cast<unsigned char>(character)];
-    const bool apart = m_nChildren > kSearchedInNodes;
-    const char *at = apart ? Characters() : reinterpret_cast<const char *>(&Nodes()->m_cChar);
-    const size_t stride = apart ? 1 : sizeof(CLookupNode);
-    unsigned first = 0, behind = m_nChildren;
-    while (first < behind) {
-        const unsigned middle = first + (behind - first - 1) / 2;
-        const unsigned char rank = ranks[static_cast<unsigned char>(at[middle * stride])];
-        if (rank == wanted) {
-            *found = true;
-            return middle;
-        }
-        (rank < wanted ? first : behind) = rank < wanted ? middle + 1 : middle;
+// The child of that rank, or the one in front of which it would have to stand. There are children. The halving makes
+// no jump that depends on the characters: which way it goes cannot be foreseen.
+unsigned CLookupNode::FindPosition(unsigned char wanted, const unsigned char *ranks, const Shape &shape) const {
+    const auto *characters = reinterpret_cast<const unsigned char *>(m_pBody + shape.characters);
+    const auto *nodes = reinterpret_cast<const CLookupNode *>(m_pBody + shape.nodes);
+    unsigned first = 0;
+    if (m_nChildren <= kSearchedInNodes) {
+        while (first < m_nChildren && ranks[static_cast<unsigned char>(nodes[first].m_cChar)] < wanted)
+            ++first;
+        return first;
     }
-    *found = false;
-    return first;
+    for (unsigned left = m_nChildren; left > 1;) {
+        const unsigned half = left / 2;
+        first += ranks[characters[first + half - 1]] < wanted ? half : 0;
+        left -= half;
+    }
+    return first + (ranks[characters[first]] < wanted);
 }
 
 const CLookupNode *CLookupNode::FindChild(char character, const unsigned char *ranks) const {
     if (m_nChildren == 0)
         return nullptr;
-    bool found;
-    const unsigned position = FindPosition(character, ranks, &found);
-    return found ? Nodes() + position : nullptr;
+    const Shape shape = Now();
+    AskForMemory(m_pBody, shape.end);
+    const unsigned char wanted = ranks[static_cast<unsigned char>(character)];
+    const unsigned position = FindPosition(wanted, ranks, shape);
+    const auto *node = reinterpret_cast<const CLookupNode *>(m_pBody + shape.nodes) + position;
+    const bool found = position < m_nChildren && ranks[static_cast<unsigned char>(node->m_cChar)] == wanted;
+    return found ? node : nullptr;
 }
 
 // Changes the number of children and the place for a list. New children are blank: in front of the child `gap` when
@@ -99,8 +115,10 @@ void CLookupNode::Reshape(CTreePool &pool, bool hasList, unsigned children, unsi
 }
 
 CLookupNode *CLookupNode::AddChild(CTreePool &pool, char character, const unsigned char *ranks) {
-    bool found = false;
-    const unsigned position = m_nChildren > 0 ? FindPosition(character, ranks, &found) : 0;
+    const unsigned char wanted = ranks[static_cast<unsigned char>(character)];
+    const unsigned position = m_nChildren > 0 ? FindPosition(wanted, ranks, Now()) : 0;
+    const bool found =
+        position < m_nChildren && ranks[static_cast<unsigned char>(Nodes()[position].m_cChar)] == wanted;
     if (!found) {
         Reshape(pool, m_bHasList, m_nChildren + 1, position);
         SetChildCharacter(position, character);

@@ -48,7 +48,7 @@ private:
     CLookupNode *Nodes() const { return reinterpret_cast<CLookupNode *>(m_pBody + Now().nodes); }
     char *Characters() const { return m_pBody + Now().characters; }
     Shape Now() const { return ShapeFor(m_bHasList, m_nChildren); }
-    unsigned FindPosition(char character, const unsigned char *ranks, bool *found) const;
+    unsigned FindPosition(unsigned char wanted, const unsigned char *ranks, const Shape &shape) const;
     void Reshape(CTreePool &pool, bool hasList, unsigned children, unsigned gap);
 
     bool m_bHasList = false; // the body has a place for a code list

@@ -2,10 +2,12 @@
 #include "tests/fuzz/LookupFuzz.h"
 
 #include "AllocationMeter.h"
-#include "LookupExamples.h"
+#include "MemoryFile.h"
+#include "TempFiles.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <random>
 
@@ -17,16 +19,16 @@ bool Exercise(const std::string &bytes) {
     return ExerciseLookup(reinterpret_cast<const std::uint8_t *>(bytes.data()), bytes.size());
 }
 
-// One file of each kind, and one whose menu refers to lists upwards and downwards.
-std::vector<std::string> Examples() {
-    const std::string node = std::string(18, '\0');
-    const std::string lists = ExampleFront() + Bytes("02 00 00 00 01 00 00 00") +
-                              Bytes("03 00 00 00 01 00 00 00 02 00 00 00 01 00 00 00") +
-                              Bytes("01 00 00 00") + node + Bytes("FF FF FF FF") + node + Bytes("02 00 00 00") + node +
-                              Bytes("FF FF FF FF") + node + Bytes("00 00 00 00") + node + ExampleTrie();
-    std::string old = PlainExample();
-    old.replace(16, 8, Bytes("01 00 00 00"));
-    return {PlainExample(), SharedExample(), lists, old};
+// The fuzz target's seeds: tables of each form, one with lists upwards and downwards, one of the first menu version,
+// one with a wide text.
+std::vector<std::string> Seeds() {
+    std::vector<std::string> paths, seeds;
+    for (const auto &entry : std::filesystem::directory_iterator(ORVANE_SEEDS))
+        paths.push_back(entry.path().string());
+    std::sort(paths.begin(), paths.end());
+    for (const std::string &path : paths)
+        seeds.push_back(TempFiles::Read(path));
+    return seeds;
 }
 
 // Overwrites, inserts, removes and repeats bytes; numbers that lie are what it likes best.
@@ -53,7 +55,9 @@ std::string Mutate(std::string bytes, std::mt19937 &random) {
 }
 
 TEST(LookupDamageTest, AFileCutAtEveryLengthIsRefused) {
-    for (const std::string &whole : Examples()) {
+    const std::vector<std::string> seeds = Seeds();
+    EXPECT_EQ(seeds.size(), 5u);
+    for (const std::string &whole : seeds) {
         EXPECT_TRUE(Exercise(whole));
         for (size_t length = 0; length < whole.size(); ++length)
             EXPECT_FALSE(Exercise(whole.substr(0, length))) << length;
@@ -67,10 +71,10 @@ TEST(LookupDamageTest, ManyMutatedFilesTakeNoMoreMemoryThanTheirSizeJustifies) {
     const char *wanted = std::getenv("ORVANE_MUTATIONS");
     const long count = wanted != nullptr ? std::atol(wanted) : 30000;
     std::mt19937 random(kSeed);
-    const std::vector<std::string> examples = Examples();
+    const std::vector<std::string> seeds = Seeds();
     long tables = 0;
     for (long i = 0; i < count; ++i) {
-        const std::string bytes = Mutate(examples[static_cast<size_t>(i) % examples.size()], random);
+        const std::string bytes = Mutate(seeds[static_cast<size_t>(i) % seeds.size()], random);
         AllocationMeter meter;
         tables += Exercise(bytes);
         ASSERT_LT(meter.Peak(), kBesides + kTimesSize * static_cast<long>(bytes.size()))
