@@ -64,6 +64,23 @@ TEST(LookupDamageTest, AFileCutAtEveryLengthIsRefused) {
     }
 }
 
+// Counts one in the other, each promising as much as the rest of the file could hold.
+TEST(LookupDamageTest, NestedCountsTakeNoMoreMemoryThanOne) {
+    constexpr int kDeep = 3000;
+    const auto number = [](int value) { return std::string{char(value), char(value >> 8), char(value >> 16), 0}; };
+    std::string menu, trie;
+    for (int left = kDeep; left > 0; --left) {
+        menu += std::string(18, '\0') + number(left - 1);
+        trie += std::string(5, '\0') + number(left - 1);
+    }
+    const std::string front = Bytes("04 00 00 00 00 00 00 00 02 00 00 00 00 00 00 00");
+    for (const std::string &bytes : {front + menu, front + std::string(22, '\0') + trie}) {
+        AllocationMeter meter;
+        EXPECT_FALSE(Exercise(bytes));
+        EXPECT_LT(meter.Peak(), (64 << 10) + 20 * static_cast<long>(bytes.size()));
+    }
+}
+
 // ORVANE_MUTATIONS sets another number.
 TEST(LookupDamageTest, ManyMutatedFilesTakeNoMoreMemoryThanTheirSizeJustifies) {
     constexpr long kBesides = 32 << 10; // the archive's buffers, and the first blocks of the pools

@@ -159,6 +159,8 @@ TEST_F(LookupTreeTest, AHitDoesNotStartAtTheRoot) {
     m_tree.m_sLastCode = "A";
     m_tree.m_pLastNode = m_tree.GetChild(1);
     EXPECT_TRUE(m_tree.IsPartialCode("AY", true));
+    m_tree.m_sLastCode = "never added";
+    EXPECT_TRUE(m_tree.IsPartialCode("never added", true));
 }
 
 TEST_F(LookupTreeTest, TheCacheComparesWithoutCaseInACaseInsensitiveTree) {
