@@ -68,16 +68,22 @@ unsigned CLookupNode::FindPosition(unsigned char wanted, const unsigned char *ra
     return first + (ranks[characters[first]] < wanted);
 }
 
-const CLookupNode *CLookupNode::FindChild(char character, const unsigned char *ranks) const {
+const CLookupNode *CLookupNode::FindChild(unsigned char wanted, const unsigned char *ranks) const {
     if (m_nChildren == 0)
         return nullptr;
     const Shape shape = Now();
     AskForMemory(m_pBody, shape.end);
-    const unsigned char wanted = ranks[static_cast<unsigned char>(character)];
     const unsigned position = FindPosition(wanted, ranks, shape);
     const auto *node = reinterpret_cast<const CLookupNode *>(m_pBody + shape.nodes) + position;
     const bool found = position < m_nChildren && ranks[static_cast<unsigned char>(node->m_cChar)] == wanted;
     return found ? node : nullptr;
+}
+
+const CLookupNode *CLookupNode::FindPath(const char *text, int length, const unsigned char *ranks) const {
+    const CLookupNode *node = this;
+    for (const char *end = text + length; text != end && node != nullptr; ++text)
+        node = node->FindChild(ranks[static_cast<unsigned char>(*text)], ranks);
+    return node;
 }
 
 // Changes the number of children and the place for a list. New children are blank: in front of the child `gap` when

@@ -9,17 +9,6 @@
 
 IMPLEMENT_DYNAMIC(CLookupTree, CObject)
 
-namespace {
-
-const CLookupNode *Walk(const CLookupNode *node, LPCSTR text, int length, bool bCaseSensitive) {
-    const unsigned char *ranks = CodeByteRanks(bCaseSensitive);
-    for (int i = 0; i < length && node != nullptr; ++i)
-        node = node->FindChild(text[i], ranks);
-    return node;
-}
-
-} // namespace
-
 CLookupTree::CLookupTree() = default;
 
 CLookupTree::~CLookupTree() = default;
@@ -90,7 +79,8 @@ const CLookupNode *CLookupTree::Search(LPCSTR code, bool bCaseSensitive) {
     if (goesOn && known == length)
         return m_pLastNode;
     const int done = goesOn ? known : 0;
-    const CLookupNode *node = Walk(goesOn ? m_pLastNode : this, code + done, length - done, bCaseSensitive);
+    const CLookupNode *from = goesOn ? m_pLastNode : this;
+    const CLookupNode *node = from->FindPath(code + done, length - done, CodeByteRanks(bCaseSensitive));
     if (node != nullptr) {
         m_sLastCode.SetString(code, length);
         m_pLastNode = node;
@@ -113,7 +103,8 @@ bool CLookupTree::GetCodeList(LPCSTR code, bool bCaseSensitive, CStringArray &co
     codes.RemoveAll();
     if (*code == '\0')
         return false;
-    const CLookupNode *node = Walk(this, code, static_cast<int>(std::strlen(code)), bCaseSensitive);
+    const CLookupNode *node =
+        FindPath(code, static_cast<int>(std::strlen(code)), CodeByteRanks(bCaseSensitive));
     if (node == nullptr)
         return false;
     try {
