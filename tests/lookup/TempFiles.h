@@ -4,15 +4,16 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 
 class TempFiles {
 public:
     explicit TempFiles(const std::string &name) {
-        static int count = 0;
+        // Tests run side by side, as processes that are otherwise alike.
+        std::random_device random;
         m_folder = std::filesystem::temp_directory_path() /
-                   ("orvane_" + name + "_" + std::to_string(++count) + "_" +
-                    std::to_string(reinterpret_cast<std::uintptr_t>(this)));
+                   ("orvane_" + name + "_" + std::to_string(random()) + "_" + std::to_string(random()));
         std::filesystem::create_directories(m_folder);
     }
     ~TempFiles() {
