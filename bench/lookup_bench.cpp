@@ -159,7 +159,8 @@ private:
             int col;
             long row;
             CString text;
-            times.push_back(Milliseconds([&] { Expect(compiler.Compile(col, row, text), "the table does not compile"); }));
+            times.push_back(
+                Milliseconds([&] { Expect(compiler.Compile(col, row, text), "the table does not compile"); }));
             bytes = static_cast<double>(compiler.m_MenuTree.GetHeldBytes() + compiler.m_LookupTree.GetHeldBytes());
         }
         Print(what, "ms", times, target);
@@ -173,8 +174,8 @@ private:
         std::vector<double> speeds;
         for (int run = 0; run < kRuns; ++run) {
             CString text;
-            const double time =
-                Milliseconds([&] { Expect(m_table.SerializeFile(path.c_str(), text, false), "the table does not load"); });
+            const double time = Milliseconds(
+                [&] { Expect(m_table.SerializeFile(path.c_str(), text, false), "the table does not load"); });
             speeds.push_back(megabytes / time * 1000);
         }
         std::printf("  the file has %.1f MB\n", megabytes);
@@ -185,7 +186,8 @@ private:
         Print("  of which the trie", "bytes a code", {perCode(m_table.m_LookupTree.GetHeldBytes())});
     }
     void Search() {
-        PrintEach("complete-code test", "ns", kCodes, "target 400", [&] { Expect(Found() == kCodes, "a code is missing"); });
+        PrintEach("complete-code test", "ns", kCodes, "target 400",
+                  [&] { Expect(Found() == kCodes, "a code is missing"); });
         PrintEach("the same of codes that are not there", "ns", kCodes, "", [&] {
             for (const std::string &code : m_absent)
                 Expect(!m_table.IsValidCode(code.c_str()), "a code is too many");
@@ -225,8 +227,8 @@ private:
              [&](const std::string &code) { return std::binary_search(m_codes.begin(), m_codes.end(), code); });
         memory(m_codes.size() * sizeof(std::string));
         g_counted = 0;
-        const std::unordered_set<std::string, std::hash<std::string>, std::equal_to<>, CountingAllocator<std::string>> set(
-            m_codes.begin(), m_codes.end(), kCodes);
+        const std::unordered_set<std::string, std::hash<std::string>, std::equal_to<>, CountingAllocator<std::string>>
+            set(m_codes.begin(), m_codes.end(), kCodes);
         find("a hash set", [&](const std::string &code) { return set.count(code) != 0; });
         memory(g_counted);
         if (!StaticTrie::IsThere())

@@ -1,6 +1,5 @@
 #include "lookup/MenuTree.h"
 
-#include "lookup/CodeCompare.h"
 #include "lookup/MenuPaths.h"
 
 #include <afxwin.h>
@@ -11,6 +10,12 @@
 #include <vector>
 
 IMPLEMENT_DYNAMIC(CMenuTree, CObject)
+
+// What belongs to the tree as a whole.
+struct CMenuStore {
+    CTreePool pool;
+    CArray<CMenuList *, CMenuList *> m_SharedLists;
+};
 
 namespace {
 

@@ -88,9 +88,3 @@ private:
     bool m_bOwnsStore = false; // the root
     CMenuStore *m_pStore = nullptr;
 };
-
-// What belongs to the tree as a whole.
-struct CMenuStore {
-    CTreePool pool;
-    CArray<CMenuList *, CMenuList *> m_SharedLists;
-};
