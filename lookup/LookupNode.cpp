@@ -1,12 +1,14 @@
 #include "lookup/LookupNode.h"
 
+#include "lookup/CodeCompare.h"
+
 #include <algorithm>
 #include <bit>
 #include <cstring>
 #include <new>
 #include <type_traits>
 
-#include <xmmintrin.h>
+#include <emmintrin.h>
 
 namespace {
 
@@ -68,21 +70,39 @@ unsigned CLookupNode::FindPosition(unsigned char wanted, const unsigned char *ra
     return first + (ranks[characters[first]] < wanted);
 }
 
-const CLookupNode *CLookupNode::FindChild(unsigned char wanted, const unsigned char *ranks) const {
+const CLookupNode *CLookupNode::FindChild(char character, const unsigned char *ranks, bool exact) const {
     if (m_nChildren == 0)
         return nullptr;
     const Shape shape = Now();
     AskForMemory(m_pBody, shape.end);
+    const auto *nodes = reinterpret_cast<const CLookupNode *>(m_pBody + shape.nodes);
+    if (exact && m_nChildren > kSearchedInNodes)
+        return FindByte(character, m_pBody + shape.characters, nodes);
+    const unsigned char wanted = ranks[static_cast<unsigned char>(character)];
     const unsigned position = FindPosition(wanted, ranks, shape);
-    const auto *node = reinterpret_cast<const CLookupNode *>(m_pBody + shape.nodes) + position;
-    const bool found = position < m_nChildren && ranks[static_cast<unsigned char>(node->m_cChar)] == wanted;
-    return found ? node : nullptr;
+    const bool found =
+        position < m_nChildren && ranks[static_cast<unsigned char>(nodes[position].m_cChar)] == wanted;
+    return found ? nodes + position : nullptr;
 }
 
-const CLookupNode *CLookupNode::FindPath(const char *text, int length, const unsigned char *ranks) const {
+// Sixteen characters at a time. The nodes behind them are what is read beyond their end.
+const CLookupNode *CLookupNode::FindByte(char character, const char *characters, const CLookupNode *nodes) const {
+    const __m128i wanted = _mm_set1_epi8(character);
+    for (unsigned first = 0; first < m_nChildren; first += 16) {
+        const __m128i piece = _mm_loadu_si128(reinterpret_cast<const __m128i *>(characters + first));
+        const auto equal = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(piece, wanted)));
+        const unsigned position = first + static_cast<unsigned>(std::countr_zero(equal | 0x10000u));
+        if (equal != 0)
+            return position < m_nChildren ? nodes + position : nullptr;
+    }
+    return nullptr;
+}
+
+const CLookupNode *CLookupNode::FindPath(const char *text, int length, bool bCaseSensitive) const {
+    const unsigned char *ranks = CodeByteRanks(bCaseSensitive);
     const CLookupNode *node = this;
     for (const char *end = text + length; text != end && node != nullptr; ++text)
-        node = node->FindChild(ranks[static_cast<unsigned char>(*text)], ranks);
+        node = node->FindChild(*text, ranks, bCaseSensitive);
     return node;
 }
 

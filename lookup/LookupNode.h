@@ -16,12 +16,11 @@ public:
     unsigned GetChildCount() const { return m_nChildren; }
     CLookupNode *GetChild(unsigned index) { return Nodes() + index; }
     const CLookupNode *GetChild(unsigned index) const { return Nodes() + index; }
-    // The node down the characters, null if there is none; this node for none. `ranks` orders the characters
-    // (CodeByteRanks).
-    const CLookupNode *FindPath(const char *text, int length, const unsigned char *ranks) const;
+    // The node down the characters, null if there is none; this node for none.
+    const CLookupNode *FindPath(const char *text, int length, bool bCaseSensitive) const;
 
-    // Finds the child, or inserts it in sorted position. Throws CMemoryException, the node then being as it was; so
-    // do the other operations with a pool.
+    // Finds the child, or inserts it in sorted position; `ranks` orders characters (CodeByteRanks). Throws
+    // CMemoryException, the node then being as it was; so do the other operations with a pool.
     CLookupNode *AddChild(CTreePool &pool, char character, const unsigned char *ranks);
     // Gives a node without children that many, whose characters then have to be set in sorted order.
     void MakeChildren(CTreePool &pool, unsigned count);
@@ -49,7 +48,8 @@ private:
     CLookupNode *Nodes() const { return reinterpret_cast<CLookupNode *>(m_pBody + Now().nodes); }
     char *Characters() const { return m_pBody + Now().characters; }
     Shape Now() const { return ShapeFor(m_bHasList, m_nChildren); }
-    const CLookupNode *FindChild(unsigned char wanted, const unsigned char *ranks) const;
+    const CLookupNode *FindChild(char character, const unsigned char *ranks, bool exact) const;
+    const CLookupNode *FindByte(char character, const char *characters, const CLookupNode *nodes) const;
     unsigned FindPosition(unsigned char wanted, const unsigned char *ranks, const Shape &shape) const;
     void Reshape(CTreePool &pool, bool hasList, unsigned children, unsigned gap);
 

@@ -80,7 +80,7 @@ const CLookupNode *CLookupTree::Search(LPCSTR code, bool bCaseSensitive) {
         return m_pLastNode;
     const int done = goesOn ? known : 0;
     const CLookupNode *from = goesOn ? m_pLastNode : this;
-    const CLookupNode *node = from->FindPath(code + done, length - done, CodeByteRanks(bCaseSensitive));
+    const CLookupNode *node = from->FindPath(code + done, length - done, bCaseSensitive);
     if (node != nullptr) {
         m_sLastCode.SetString(code, length);
         m_pLastNode = node;
@@ -103,8 +103,7 @@ bool CLookupTree::GetCodeList(LPCSTR code, bool bCaseSensitive, CStringArray &co
     codes.RemoveAll();
     if (*code == '\0')
         return false;
-    const CLookupNode *node =
-        FindPath(code, static_cast<int>(std::strlen(code)), CodeByteRanks(bCaseSensitive));
+    const CLookupNode *node = FindPath(code, static_cast<int>(std::strlen(code)), bCaseSensitive);
     if (node == nullptr)
         return false;
     try {
