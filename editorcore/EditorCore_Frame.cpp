@@ -1,6 +1,8 @@
 // The editor's life: settings shared by all, construction, set-up and destruction.
 #include "editorcore/EditorCore.h"
 
+#include "lookup/LookupTableFile.h"
+
 IMPLEMENT_DYNAMIC(CEditorCore, CUGOrvaneCtrlInterfaceLayer)
 
 BEGIN_MESSAGE_MAP(CEditorCore, CUGOrvaneCtrlInterfaceLayer)
@@ -28,6 +30,7 @@ CArray<CEditorCore *, CEditorCore *> CEditorCore::m_InstanceList;
 void CEditorCore::Initialise(CVAppInterface *host) {
     ms_bInitCalled = true;
     ms_pAppInterface = host;
+    CLookupTableFile::SetAppInterface(host);
     CVEditorOptions *options = host->GetEditorOptions();
     options->GetCellFont(&ms_lfCellFont);
     options->GetHeadingFont(&ms_lfHeadingFont);

@@ -54,8 +54,12 @@ void CArchive::Flush() {
 
 bool CArchive::FillBuffer() {
     m_used = 0;
-    m_have = m_file->Read(m_buffer.data(), static_cast<UINT>(m_buffer.size()));
-    return m_have > 0;
+    m_have = 0;
+    const UINT got = m_file->Read(m_buffer.data(), static_cast<UINT>(m_buffer.size()));
+    m_have = got;
+    if (m_behind >= 0)
+        m_behind = std::max<LONGLONG>(m_behind - got, 0);
+    return got > 0;
 }
 
 UINT CArchive::Read(void *buffer, UINT bytes) {
@@ -92,10 +96,17 @@ void CArchive::Write(const void *buffer, UINT bytes) {
     }
 }
 
-ULONGLONG CArchive::BytesLeft() const {
-    const ULONGLONG length = m_file->GetLength();
-    const ULONGLONG position = m_file->GetPosition();
-    return (position < length ? length - position : 0) + (m_have - m_used);
+ULONGLONG CArchive::BytesBehindBuffer() {
+    if (m_behind < 0) {
+        const ULONGLONG length = m_file->GetLength();
+        const ULONGLONG position = m_file->GetPosition();
+        m_behind = position < length ? static_cast<LONGLONG>(length - position) : 0;
+    }
+    return static_cast<ULONGLONG>(m_behind);
+}
+
+ULONGLONG CArchive::BytesLeft() {
+    return BytesBehindBuffer() + (m_have - m_used);
 }
 
 CArchive &CArchive::operator<<(BYTE value) {
@@ -155,8 +166,7 @@ unsigned CArchive::ReadCount() {
     return static_cast<unsigned>(large);
 }
 
-CArchive &CArchive::operator<<(const CString &text) {
-    const auto length = static_cast<unsigned>(text.GetLength());
+void CArchive::WriteText(LPCSTR text, unsigned length) {
     if (length < kLongString) {
         *this << static_cast<BYTE>(length);
     } else if (length < kWideMark) {
@@ -164,7 +174,11 @@ CArchive &CArchive::operator<<(const CString &text) {
     } else {
         *this << kLongString << kLongerString << static_cast<int>(length);
     }
-    Write(static_cast<LPCSTR>(text), length);
+    Write(text, length);
+}
+
+CArchive &CArchive::operator<<(const CString &text) {
+    WriteText(text, static_cast<unsigned>(text.GetLength()));
     return *this;
 }
 
@@ -190,21 +204,34 @@ unsigned long long CArchive::ReadStringLength(bool *wide) {
     return GetLittleEndian(bytes, 8);
 }
 
-CArchive &CArchive::operator>>(CString &text) {
+LPCSTR CArchive::ReadText(unsigned *length) {
     bool wide = false;
-    const unsigned long long length = ReadStringLength(&wide);
+    const unsigned long long characters = ReadStringLength(&wide);
     const unsigned width = wide ? 2 : 1;
-    if (length > BytesLeft() / width || length > 0x3FFFFFFF)
+    if (characters > BytesLeft() / width || characters > 0x3FFFFFFF)
         AfxThrowArchiveException(CArchiveException::endOfFile, m_fileName);
-    std::vector<BYTE> bytes(static_cast<size_t>(length) * width);
-    ReadExactly(bytes.data(), static_cast<UINT>(bytes.size()));
-    if (!wide) {
-        text = CString(reinterpret_cast<const char *>(bytes.data()), static_cast<int>(length));
-        return *this;
+    const size_t bytes = static_cast<size_t>(characters) * width;
+    *length = static_cast<unsigned>(characters);
+    if (!wide && bytes <= m_have - m_used) {
+        m_used += bytes;
+        return reinterpret_cast<LPCSTR>(m_buffer.data() + (m_used - bytes));
     }
-    std::vector<WORD> units(static_cast<size_t>(length));
-    for (size_t i = 0; i < length; ++i)
-        units[i] = static_cast<WORD>(GetLittleEndian(&bytes[2 * i], 2));
-    text = TextFromWide(units);
+    m_text.resize(bytes);
+    ReadExactly(m_text.data(), static_cast<UINT>(bytes));
+    if (wide) {
+        std::vector<WORD> units(static_cast<size_t>(characters));
+        for (size_t i = 0; i < units.size(); ++i)
+            units[i] = static_cast<WORD>(GetLittleEndian(&m_text[2 * i], 2));
+        const CString text = TextFromWide(units);
+        *length = static_cast<unsigned>(text.GetLength());
+        m_text.assign(text.GetString(), text.GetString() + *length);
+    }
+    return reinterpret_cast<LPCSTR>(m_text.data());
+}
+
+CArchive &CArchive::operator>>(CString &text) {
+    unsigned length;
+    const LPCSTR characters = ReadText(&length);
+    text = CString(characters, static_cast<int>(length));
     return *this;
 }

@@ -38,22 +38,29 @@ public:
     CArchive &operator<<(WORD value);
     CArchive &operator<<(int value); // four bytes
     CArchive &operator<<(const CString &text);
+    // A string field.
+    void WriteText(LPCSTR text, unsigned length);
     CArchive &operator>>(BYTE &value);
     CArchive &operator>>(WORD &value);
     CArchive &operator>>(int &value);
     CArchive &operator>>(CString &text);
+    // The characters of a string field. They stand in the archive's own memory until it reads again, and no null
+    // ends them.
+    LPCSTR ReadText(unsigned *length);
 
     // A word, or 0xFFFF and four bytes.
     void WriteCount(unsigned count);
     unsigned ReadCount();
 
     CFile *GetFile() const { return m_file; }
-    // Bytes between the reading position and the end of the file: no field can be larger.
-    ULONGLONG BytesLeft() const;
+    // Bytes between the reading position and the end of the file: no field can be larger. The file's length is asked
+    // for once, so it must not change while it is read.
+    ULONGLONG BytesLeft();
 
 private:
     void ReadExactly(void *buffer, UINT bytes);
     bool FillBuffer();
+    ULONGLONG BytesBehindBuffer();
     unsigned long long ReadStringLength(bool *wide);
 
     CFile *m_file;
@@ -62,4 +69,6 @@ private:
     std::vector<BYTE> m_buffer;
     size_t m_used = 0; // loading: bytes consumed; storing: bytes waiting
     size_t m_have = 0; // loading: bytes in the buffer
+    LONGLONG m_behind = -1;     // loading: bytes of the file behind the buffer; -1 while not asked for
+    std::vector<BYTE> m_text;   // a string that the buffer holds no more than a part of
 };

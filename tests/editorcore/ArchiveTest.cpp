@@ -136,4 +136,29 @@ TEST(ArchiveTest, WhatPassesTheBufferIsWrittenInOrder) {
     EXPECT_EQ(expected, bytes);
 }
 
+TEST(ArchiveTest, BytesLeftCountsTheBufferAndWhatIsBehindIt) {
+    MemoryFile file(std::string(10000, 'x'));
+    CArchive archive(&file, CArchive::load);
+    EXPECT_EQ(archive.BytesLeft(), 10000u);
+    char bytes[5000];
+    archive.Read(bytes, 1);
+    EXPECT_EQ(archive.BytesLeft(), 9999u);
+    archive.Read(bytes, 4999);
+    EXPECT_EQ(archive.BytesLeft(), 5000u);
+    archive.Read(bytes, 5000);
+    EXPECT_EQ(archive.BytesLeft(), 0u);
+}
+
+TEST(ArchiveTest, ATextStandsInTheBufferOrAcrossItsEnd) {
+    const std::string first(4000, 'a'), second(254, 'b');
+    MemoryFile file(Bytes("FF A0 0F") + first + Bytes("FE") + second);
+    CArchive archive(&file, CArchive::load);
+    unsigned length;
+    LPCSTR text = archive.ReadText(&length);
+    EXPECT_EQ(std::string(text, length), first);
+    text = archive.ReadText(&length);
+    EXPECT_EQ(std::string(text, length), second);
+    EXPECT_EQ(CauseOf([&] { archive.ReadText(&length); }), CArchiveException::endOfFile);
+}
+
 } // namespace
