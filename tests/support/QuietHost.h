@@ -2,7 +2,7 @@
 // a benchmark wants otherwise it overrides.
 #pragma once
 
-#include "editorcore/AppInterface.h"
+#include "editorcore/QuietAppInterface.h"
 
 #include <afxwin.h>
 
@@ -30,45 +30,9 @@ public:
     void GetGridLines(bool *horizontal, bool *vertical) override { *horizontal = *vertical = true; }
 };
 
-class QuietHost : public CVAppInterface {
+class QuietHost : public CQuietAppInterface {
 public:
-    void SetEditorTitle(const char *, const char *, CEditorCore *) override {}
-    void OnGridHotKey() override {}
-    bool LoadXParmsSet(const char *, CMap<CString, const char *, CExecuteInfo, CExecuteInfo &> *) override {
-        return false;
-    }
-    void GetAppTitle(CString &title) override { title = "Quiet"; }
-    int CheckAbort() override { return 0; }
-    CUGDataSource *CreateDataSource(const char *) override { return nullptr; }
-    void ShowFileInformation(CUGDataSource *) override {}
-    bool PromptSaveAs(CString &, bool *, bool) override { return false; }
-    bool PromptFieldOrder(CStringArray *) override { return false; }
-    void PromptFieldVisibility(CStringArray &, CArray<bool, bool> &) override {}
-    bool PromptXParms(CStringArray &, CStringArray &, CArray<bool, bool> &, CString, const char *,
-                      CArray<CFieldStatus, CFieldStatus &> *, CString &,
-                      CArray<CExecuteInfo *, CExecuteInfo *> &) override {
-        return false;
-    }
-    void ShowFindDialog(bool, CWnd *, UINT) override {}
-    void ShowReplaceDialog(bool, CWnd *, UINT) override {}
     CVEditorOptions *GetEditorOptions() override { return &m_quietOptions; }
-    void GetDefaultFieldWidths(UINT *code, UINT *description) override { *code = *description = 10; }
-    bool EditLookupTableProperties(bool *, bool *, bool *, bool *) override { return false; }
-    void GetLookupOptions(bool *validate, bool *validateOnKey, bool *resolveSubMenus, bool *allowPartialCodes,
-                          bool *beepOnInvalid, int *invalidAction, CString *, CString *) override {
-        *validate = *validateOnKey = *resolveSubMenus = *allowPartialCodes = *beepOnInvalid = false;
-        *invalidAction = 0;
-    }
-    bool EditLookupUserOptions(bool *, bool *, bool *, bool *, bool *, int *, CString *, CString *, UINT *,
-                               UINT *) override {
-        return false;
-    }
-    void EditLookupAdminOptions(CLookupOptionsMgr *) override {}
-    void SetDefaultFieldWidths(UINT, UINT) override {}
-    bool EditFilter(int, const char *) override { return false; }
-    bool SelectFilter(int *) override { return false; }
-    void DoWaitCursor(int) override {}
-    void ShowMessage(const char *) override {}
 
 private:
     QuietOptions m_quietOptions;
