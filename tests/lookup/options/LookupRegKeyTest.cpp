@@ -22,7 +22,8 @@ public:
 
     std::string KeyPathOf(const char *path) const {
         CString key("unchanged");
-        return (GetKeyPath(path, key) ? "" : "false ") + std::string(key.GetString());
+        const bool made = GetKeyPath(path, key);
+        return (made ? "" : "false ") + std::string(key.GetString());
     }
 };
 
