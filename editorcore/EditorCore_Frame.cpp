@@ -1,6 +1,8 @@
 // The editor's life: settings shared by all, construction, set-up and destruction.
 #include "editorcore/EditorCore.h"
 
+#include "lookup/LookupOptionsMgr.h"
+
 IMPLEMENT_DYNAMIC(CEditorCore, CUGOrvaneCtrlInterfaceLayer)
 
 BEGIN_MESSAGE_MAP(CEditorCore, CUGOrvaneCtrlInterfaceLayer)
@@ -33,6 +35,7 @@ void CEditorCore::Initialise(CVAppInterface *host) {
     options->GetHeadingFont(&ms_lfHeadingFont);
     ms_nMaxDisplayColWidth = options->GetMaxDisplayColWidth();
     ms_bEnterKeyIsTab = options->IsEnterKeyTab();
+    CLookupOptionsMgr::InitialSetAllOptions(host);
 }
 
 void CEditorCore::SetEnterKey(bool isTab) {
