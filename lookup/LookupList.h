@@ -5,6 +5,7 @@
 
 class ORVANE_API CLookupList {
 public:
-    // An entry with a menu behind it can be taken as well; CUGOrvaneLookupCellType::SetAllowPartialCodes goes with it.
+    // An entry with a menu behind it can be taken as well; CUGOrvaneLookupCellType::SetAllowPartialCodes goes
+    // with it.
     static bool ms_bAllowPartial;
 };

@@ -72,9 +72,9 @@ void CLookupOptionsMgr::OnUserOptions() {
         Options options;
         UINT code = 0, description = 0;
         if (!ms_pAppInterface->EditLookupUserOptions(
-                &options.validate, &options.validateOnKey, &options.resolveSubMenus, &options.allowPartialCodes,
-                &options.beepOnInvalid, &options.invalidAction, &options.replaceString, &options.prependString, &code,
-                &description))
+                &options.validate, &options.validateOnKey, &options.resolveSubMenus,
+                &options.allowPartialCodes, &options.beepOnInvalid, &options.invalidAction,
+                &options.replaceString, &options.prependString, &code, &description))
             return;
         ApplySwitches(options);
         ms_pAppInterface->SetDefaultFieldWidths(code, description);

@@ -1,6 +1,7 @@
-// CLookupOptionsMgr: the lookup options as a host uses them. Objects have no state: options are the cell type's
-// settings, the administrator's logon, locks and strict mode stand in the registry (CLookupRegKey). What logon, locks and
-// strict mode allow or forbid is the host's to say; nothing in the library asks for them.
+// CLookupOptionsMgr: the lookup options as a host uses them. Objects have no state: options are the cell
+// type's settings, the administrator's logon, locks and strict mode stand in the registry (CLookupRegKey).
+// What logon, locks and strict mode allow or forbid is the host's to say; nothing in the library asks for
+// them.
 #pragma once
 
 #include <afx.h>
@@ -17,9 +18,11 @@ public:
     // The host's dialogs. What the user chooses among the user options holds at once for all lookup fields.
     void OnUserOptions();
     void OnAdminOptions();
-    // Asks for the old password where there is one, then for a new one. Does nothing while nobody is logged on.
+    // Asks for the old password where there is one, then for a new one. Does nothing while nobody is logged
+    // on.
     void OnSetAdminPassword();
-    // Both ask for the password where there is one. The logon is kept in the registry and outlasts the program.
+    // Both ask for the password where there is one. The logon is kept in the registry and outlasts the
+    // program.
     void DoAdminLoggon();
     void DoAdminLoggoff();
 
@@ -37,7 +40,8 @@ public:
     void GetDefaultFieldWidths(UINT *code, UINT *description) const;
 
 private:
-    // Asks where a password is stored: false for a wrong one, which the user is told, and when it is cancelled.
+    // Asks where a password is stored: false for a wrong one, which the user is told, and when it is
+    // cancelled.
     static bool MayChangeLogon();
 
     static CVAppInterface *ms_pAppInterface;

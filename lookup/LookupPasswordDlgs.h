@@ -1,4 +1,5 @@
-// The dialogs of the administrator's password. Their templates stand in the library: show them under CResourceScope.
+// The dialogs of the administrator's password. Their templates stand in the library: show them under
+// CResourceScope.
 #pragma once
 
 #include <afxwin.h>

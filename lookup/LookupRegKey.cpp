@@ -90,14 +90,15 @@ bool CLookupRegKey::GetLookupWorkingFolder(CString &folder) const {
 
 bool CLookupRegKey::SetLookupTableProperties(bool caseSensitive, bool acceptEmptyCells, bool enableValidation,
                                              bool sortMenuItems) {
-    const DWORD properties = (caseSensitive ? kCaseSensitive : 0) | (acceptEmptyCells ? kAcceptEmptyCells : 0) |
-                             (enableValidation ? kEnableValidation : 0) | (sortMenuItems ? kSortMenuItems : 0);
+    const DWORD properties =
+        (caseSensitive ? kCaseSensitive : 0) | (acceptEmptyCells ? kAcceptEmptyCells : 0) |
+        (enableValidation ? kEnableValidation : 0) | (sortMenuItems ? kSortMenuItems : 0);
     return CRegistryKey(ms_hKeyRoot, PathOf(kUser)).WriteNumber("Lookup Props", properties);
 }
 
 // The bits lie in the low byte; what stands above it is nobody's.
-bool CLookupRegKey::GetLookupTableProperties(bool *caseSensitive, bool *acceptEmptyCells, bool *enableValidation,
-                                             bool *sortMenuItems) const {
+bool CLookupRegKey::GetLookupTableProperties(bool *caseSensitive, bool *acceptEmptyCells,
+                                             bool *enableValidation, bool *sortMenuItems) const {
     DWORD properties = 0;
     if (!CRegistryKey(ms_hKeyRoot, PathOf(kUser)).ReadNumber("Lookup Props", &properties))
         return false;
@@ -170,7 +171,8 @@ const char *CLookupRegKey::GetFileName(const char *path) {
 bool CLookupRegKey::AddLinkFile(const char *path, bool locked) {
     CString key;
     const char *name = GetFileName(path);
-    return name != nullptr && GetKeyPath(path, key) && CRegistryKey(ms_hKeyRoot, key).WriteByte(name, locked ? 1 : 0);
+    return name != nullptr && GetKeyPath(path, key) &&
+           CRegistryKey(ms_hKeyRoot, key).WriteByte(name, locked ? 1 : 0);
 }
 
 bool CLookupRegKey::RemoveLinkFile(const char *path) {
@@ -189,6 +191,6 @@ bool CLookupRegKey::IsLinkFileLocked(const char *path) const {
     CString key;
     const char *name = GetFileName(path);
     BYTE state = 0;
-    return name != nullptr && GetKeyPath(path, key) && CRegistryKey(ms_hKeyRoot, key).ReadByte(name, &state) &&
-           state != 0;
+    return name != nullptr && GetKeyPath(path, key) &&
+           CRegistryKey(ms_hKeyRoot, key).ReadByte(name, &state) && state != 0;
 }

@@ -1,10 +1,10 @@
-// CLookupRegKey: what the registry holds of the lookup options, under a root that the host gives. An object has no
-// state: every call opens its key, making it where it is not, and closes it, so that nothing is ever out of date. A
-// registry that refuses shows in the results alone.
+// CLookupRegKey: what the registry holds of the lookup options, under a root that the host gives. An object
+// has no state: every call opens its key, making it where it is not, and closes it, so that nothing is ever
+// out of date. A registry that refuses shows in the results alone.
 //
 //   root\Admin         Options (bits), Passwrd
-//   root\User          Options (bits), Invalid Action, Replace String, Preppend String, Working Folder, Lookup Props,
-//                      DefCodeFldWidth, DefDescFldWidth, DefCodeWith, DefDescWith
+//   root\User          Options (bits), Invalid Action, Replace String, Preppend String, Working Folder,
+//                      Lookup Props, DefCodeFldWidth, DefDescFldWidth, DefCodeWith, DefDescWith
 //   root\Lookup Links<folder>   one byte for each link file in the folder: is it locked
 #pragma once
 
@@ -12,8 +12,8 @@
 
 class ORVANE_API CLookupRegKey {
 public:
-    // Both hold for all objects. The path is copied, the key stays the host's. Before this is called no key can be
-    // opened.
+    // Both hold for all objects. The path is copied, the key stays the host's. Before this is called no key
+    // can be opened.
     static void SetRootRegKey(HKEY root, const char *path);
 
     // Options: each setter is true when the value was written, each query false when it is not there.
@@ -40,7 +40,8 @@ public:
     bool SetAdminPassword(const char *scrambled);
     bool GetAdminPassword(CString &scrambled) const;
 
-    // One of the actions of lookup/InvalidCodeAction.h; -1 when the key cannot be opened, 0 when nothing is stored.
+    // One of the actions of lookup/InvalidCodeAction.h; -1 when the key cannot be opened, 0 when nothing is
+    // stored.
     bool SetInvalidCodeAction(int action);
     int GetInvalidCodeAction() const;
 
@@ -53,15 +54,16 @@ public:
     bool SetLookupWorkingFolder(const char *folder);
     bool GetLookupWorkingFolder(CString &folder) const;
     // The properties that a new lookup table is proposed with.
-    bool SetLookupTableProperties(bool caseSensitive, bool acceptEmptyCells, bool enableValidation, bool sortMenuItems);
+    bool SetLookupTableProperties(bool caseSensitive, bool acceptEmptyCells, bool enableValidation,
+                                  bool sortMenuItems);
     bool GetLookupTableProperties(bool *caseSensitive, bool *acceptEmptyCells, bool *enableValidation,
                                   bool *sortMenuItems) const;
 
     // Widths in characters. Nothing or 0 reads as 5 for codes and 15 for descriptions.
     bool SetDefaultFieldWidths(int code, int description);
     void GetDefaultFieldWidths(UINT *code, UINT *description) const;
-    // The fields of a new lookup file, in characters. The getters tell only whether a width is stored: -1 when one is,
-    // 0 when none is.
+    // The fields of a new lookup file, in characters. The getters tell only whether a width is stored: -1
+    // when one is, 0 when none is.
     bool SetDefaultNewCodeFieldWidth(int width);
     int GetDefaultNewCodeFieldWidth() const;
     bool SetDefaultNewDescFieldWidth(int width);

@@ -1,5 +1,6 @@
-// CRegistryKey: one key of the registry, opened, or made where it is not, with all access. Values are read with the
-// type that they must have: one of another type counts as absent. The native build keeps its keys in memory.
+// CRegistryKey: one key of the registry, opened, or made where it is not, with all access. Values are read
+// with the type that they must have: one of another type counts as absent. The native build keeps its keys in
+// memory.
 #pragma once
 
 #include <afx.h>

@@ -1,5 +1,5 @@
-// The native build's registry: in memory, for the length of the process. As in the system's, neither keys nor values
-// know case.
+// The native build's registry: in memory, for the length of the process. As in the system's, neither keys nor
+// values know case.
 #include "lookup/RegistryKey.h"
 
 #include <cstring>

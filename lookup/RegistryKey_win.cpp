@@ -13,8 +13,8 @@ CRegistryKey::CRegistryKey(HKEY root, const char *path) {
     if (root == nullptr)
         return;
     HKEY key = nullptr;
-    if (::RegCreateKeyExA(root, path, 0, nullptr, REG_OPTION_NON_VOLATILE, kAllAccess, nullptr, &key, nullptr) ==
-        ERROR_SUCCESS)
+    if (::RegCreateKeyExA(root, path, 0, nullptr, REG_OPTION_NON_VOLATILE, kAllAccess, nullptr, &key,
+                          nullptr) == ERROR_SUCCESS)
         m_hKey = key;
 }
 
@@ -40,7 +40,8 @@ bool CRegistryKey::Size(const char *name, Type type, DWORD *size) const {
 bool CRegistryKey::Read(const char *name, Type type, void *data, DWORD *size) const {
     DWORD found = REG_NONE;
     return IsOpen() &&
-           ::RegQueryValueExA(m_hKey, name, nullptr, &found, static_cast<BYTE *>(data), size) == ERROR_SUCCESS &&
+           ::RegQueryValueExA(m_hKey, name, nullptr, &found, static_cast<BYTE *>(data), size) ==
+               ERROR_SUCCESS &&
            found == kTypes[static_cast<int>(type)];
 }
 

@@ -15,7 +15,8 @@ bool ScramblePassword(CString &text) {
 
     char scrambled[kBytes + 1] = "";
     for (int i = 0; i < kBytes; ++i) {
-        const int alike = i + 1 < kBytes ? static_cast<int>(std::count(plain + i, plain + kBytes - 1, plain[i + 1])) : 0;
+        const int alike =
+            i + 1 < kBytes ? static_cast<int>(std::count(plain + i, plain + kBytes - 1, plain[i + 1])) : 0;
         scrambled[i] = static_cast<char>(2 * plain[kBytes - 1 - i] + alike);
     }
     text = scrambled; // up to the first null

@@ -3,6 +3,6 @@
 
 #include <afx.h>
 
-// Scrambles in place, to at most 8 characters; what is longer than 8 does not count. False, and nothing changed, for an
-// empty text. Throws CMemoryException.
+// Scrambles in place, to at most 8 characters; what is longer than 8 does not count. False, and nothing
+// changed, for an empty text. Throws CMemoryException.
 ORVANE_API bool ScramblePassword(CString &text);

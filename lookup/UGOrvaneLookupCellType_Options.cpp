@@ -11,7 +11,8 @@ bool CUGOrvaneLookupCellType::ms_bValidateOnChar = false;
 CString CUGOrvaneLookupCellType::ms_sPrependString;
 CString CUGOrvaneLookupCellType::ms_sReplaceString;
 
-void CUGOrvaneLookupCellType::SetInvalidCodeAction(int action, const char *replaceString, const char *prependString) {
+void CUGOrvaneLookupCellType::SetInvalidCodeAction(int action, const char *replaceString,
+                                                   const char *prependString) {
     ms_InvalidCodeAction = action;
     ms_sReplaceString = replaceString;
     ms_sPrependString = prependString;

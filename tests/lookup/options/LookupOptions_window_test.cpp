@@ -110,8 +110,8 @@ public:
     void GetLookupOptions(bool *validate, bool *validateOnKey, bool *resolveSubMenus, bool *allowPartialCodes,
                           bool *beepOnInvalid, int *invalidAction, CString *replaceString,
                           CString *prependString) override {
-        RecordingHost::GetLookupOptions(validate, validateOnKey, resolveSubMenus, allowPartialCodes, beepOnInvalid,
-                                        invalidAction, replaceString, prependString);
+        RecordingHost::GetLookupOptions(validate, validateOnKey, resolveSubMenus, allowPartialCodes,
+                                        beepOnInvalid, invalidAction, replaceString, prependString);
         CLookupRegKey().GetReplaceString(*replaceString);
     }
 };
@@ -392,14 +392,17 @@ TEST_F(LookupOptionsTest, TheDialogOfTheNewPassword) {
         for (int id : {4001, 1034}) {
             const HWND edit = ::GetDlgItem(window, id);
             const HWND label = ::GetWindow(edit, GW_HWNDPREV);
-            seen += "|" + WindowText(label) + (::GetWindowLongA(edit, GWL_STYLE) & ES_PASSWORD ? " hidden " : " ") +
+            seen += "|" + WindowText(label) +
+                    (::GetWindowLongA(edit, GWL_STYLE) & ES_PASSWORD ? " hidden " : " ") +
                     std::to_string(::SendMessageA(edit, EM_GETLIMITTEXT, 0, 0));
         }
         EXPECT_EQ(::GetDlgItem(window, 4001), ::GetFocus());
         ::SendMessageA(window, WM_COMMAND, IDCANCEL, 0);
     });
     EXPECT_EQ(IDCANCEL, dialog.DoModal());
-    EXPECT_EQ("Lookup Admin Password|&OK|&Cancel|Enter new password : hidden 8|Confirm new password : hidden 8", seen);
+    EXPECT_EQ(
+        "Lookup Admin Password|&OK|&Cancel|Enter new password : hidden 8|Confirm new password : hidden 8",
+        seen);
 }
 
 TEST_F(LookupOptionsTest, TheDialogOfTheOldPassword) {
@@ -449,8 +452,8 @@ TEST_F(LookupOptionsTest, ANewPasswordMustBeTypedTwiceAlike) {
 
 // --- Memory
 
-// Every allocation from OK on fails once. What fails within the dialog leaves it up, to be answered again; what fails
-// behind it ends the command.
+// Every allocation from OK on fails once. What fails within the dialog leaves it up, to be answered again;
+// what fails behind it ends the command.
 TEST_F(LookupOptionsTest, AScrambleWithoutMemoryIsToldAndLogsNobodyOn) {
     SetPassword("secret");
     int told = 0;

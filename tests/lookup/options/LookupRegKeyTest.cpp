@@ -62,7 +62,8 @@ constexpr Option kOptions[] = {
     {"strict", "\\Admin", 0x04, &CLookupRegKey::SetStrictMode, &CLookupRegKey::IsInStrictMode},
     {"case", "\\Admin", 0x08, &CLookupRegKey::SetCaseSensitive, &CLookupRegKey::IsCaseSensitive},
     {"lock", "\\Admin", 0x10, &CLookupRegKey::SetLockAllFiles, &CLookupRegKey::IsLockingAllFiles},
-    {"partial", "\\Admin", 0x20, &CLookupRegKey::SetAllowPartialCodes, &CLookupRegKey::IsAllowingPartialCodes},
+    {"partial", "\\Admin", 0x20, &CLookupRegKey::SetAllowPartialCodes,
+     &CLookupRegKey::IsAllowingPartialCodes},
     {"validate", "\\Admin", 0x40, &CLookupRegKey::SetValidateLookupFields,
      &CLookupRegKey::IsValidatingLookupFields},
     {"key", "\\User", 0x02, &CLookupRegKey::SetValidateOnKey, &CLookupRegKey::IsValidateOnKey},
@@ -99,7 +100,8 @@ TEST_F(LookupRegKeyTest, SetOptionOnAFreshKeyWritesTheMaskWithBitZeroSet) {
 TEST_F(LookupRegKeyTest, SetOptionKeepsTheOtherBits) {
     Raw("\\User").WriteNumber("Options", 0xFFFF0000);
     m_key.SetOption("\\User", 0x20, true);
-    EXPECT_EQ(std::to_string(0xFFFF0020u), Number("\\User", "Options")) << "bit 0 comes with a new value only";
+    EXPECT_EQ(std::to_string(0xFFFF0020u), Number("\\User", "Options"))
+        << "bit 0 comes with a new value only";
     m_key.SetOption("\\User", 0x80000000, false);
     EXPECT_EQ(std::to_string(0x7FFF0020u), Number("\\User", "Options"));
 }

@@ -40,7 +40,8 @@ TEST(ScramblePasswordTest, OneCharacterIsPaddedToEightBytes) {
     EXPECT_EQ("D1 D0 D0 CB CA CA C4 C2", Scrambled("a"));
 }
 
-// s = 49 50 51 52 53 54 55 56: every s[i + 1] is found once, at j = i + 1, which for i = 6 lies beyond the last j.
+// s = 49 50 51 52 53 54 55 56: every s[i + 1] is found once, at j = i + 1, which for i = 6 lies beyond the
+// last j.
 //   2 s      112 110 108 106 104 102 100 98
 //   out      113 111 109 107 105 103 100 98
 TEST(ScramblePasswordTest, EightDifferentCharacters) {

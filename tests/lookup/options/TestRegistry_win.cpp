@@ -3,7 +3,8 @@
 #include <windows.h>
 
 TestRegistry::TestRegistry()
-    : m_root(HKEY_CURRENT_USER), m_path("Software\\OrvaneLookupTest" + std::to_string(::GetCurrentProcessId())) {
+    : m_root(HKEY_CURRENT_USER),
+      m_path("Software\\OrvaneLookupTest" + std::to_string(::GetCurrentProcessId())) {
     ::RegDeleteTreeA(m_root, Path()); // of a run of the same number that was ended
 }
 
