@@ -242,7 +242,8 @@ TEST_F(LookupOptionsTest, TheRegistryHoldsTheTypesOfItsLayout) {
     CLookupRegKey().LockLinks("C:\\data\\staff.lk");
     const auto type = [&](const char *key, const char *name) {
         DWORD found = REG_NONE, size = 0;
-        ::RegGetValueA(m_registry.Root(), m_registry.Below(key), name, RRF_RT_ANY, &found, nullptr, &size);
+        ::RegGetValueA(m_registry.Root(), m_registry.Below(key), name, RRF_RT_ANY | RRF_NOEXPAND, &found,
+                       nullptr, &size);
         return std::to_string(found) + ":" + std::to_string(size);
     };
     EXPECT_EQ("4:4", type("\\Admin", "Options")) << "REG_DWORD";
