@@ -11,7 +11,6 @@
 #include "host/LookupPropertiesDlg.h"
 #include "host/MainFrame.h"
 #include "host/sources/DbfDataSource.h"
-#include "lookup/LookupRegKey.h"
 
 #include <algorithm>
 
@@ -158,20 +157,15 @@ void CHostService::SetDefaultFieldWidths(UINT code, UINT description) {
     options.SaveWidths();
 }
 
-// What was chosen last is proposed for the next table, where the caller's own proposal would always be the same.
 bool CHostService::EditLookupTableProperties(bool *caseSensitive, bool *acceptEmptyCells, bool *enableValidation,
                                              bool *sortMenuItems) {
-    CLookupProperties proposed{*caseSensitive, *acceptEmptyCells, *enableValidation, *sortMenuItems};
-    CLookupRegKey().GetLookupTableProperties(&proposed.m_caseSensitive, &proposed.m_acceptEmptyCells,
-                                             &proposed.m_enableValidation, &proposed.m_sortMenuItems);
-    CLookupPropertiesDlg dialog(proposed, AfxGetMainWnd());
-    if (dialog.DoModal() != IDOK)
+    CLookupProperties properties{*caseSensitive, *acceptEmptyCells, *enableValidation, *sortMenuItems};
+    if (!CLookupPropertiesDlg::Ask(properties, AfxGetMainWnd()))
         return false;
-    *caseSensitive = dialog.m_properties.m_caseSensitive;
-    *acceptEmptyCells = dialog.m_properties.m_acceptEmptyCells;
-    *enableValidation = dialog.m_properties.m_enableValidation;
-    *sortMenuItems = dialog.m_properties.m_sortMenuItems;
-    CLookupRegKey().SetLookupTableProperties(*caseSensitive, *acceptEmptyCells, *enableValidation, *sortMenuItems);
+    *caseSensitive = properties.m_caseSensitive;
+    *acceptEmptyCells = properties.m_acceptEmptyCells;
+    *enableValidation = properties.m_enableValidation;
+    *sortMenuItems = properties.m_sortMenuItems;
     return true;
 }
 

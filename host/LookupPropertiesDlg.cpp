@@ -1,9 +1,25 @@
 #include "host/LookupPropertiesDlg.h"
 
 #include "host/Resource.h"
+#include "lookup/LookupRegKey.h"
 
 CLookupPropertiesDlg::CLookupPropertiesDlg(const CLookupProperties &properties, CWnd *parent)
     : CDialog(IDD_LOOKUP_PROPERTIES, parent), m_properties(properties) {}
+
+// A proposal of the compiler's would always be the same: the last choice is more often right.
+bool CLookupPropertiesDlg::Ask(CLookupProperties &properties, CWnd *parent) {
+    CLookupRegKey registry;
+    CLookupProperties proposed = properties;
+    registry.GetLookupTableProperties(&proposed.m_caseSensitive, &proposed.m_acceptEmptyCells,
+                                      &proposed.m_enableValidation, &proposed.m_sortMenuItems);
+    CLookupPropertiesDlg dialog(proposed, parent);
+    if (dialog.DoModal() != IDOK)
+        return false;
+    properties = dialog.m_properties;
+    registry.SetLookupTableProperties(properties.m_caseSensitive, properties.m_acceptEmptyCells,
+                                      properties.m_enableValidation, properties.m_sortMenuItems);
+    return true;
+}
 
 void CLookupPropertiesDlg::DoDataExchange(CDataExchange *exchange) {
     CDialog::DoDataExchange(exchange);

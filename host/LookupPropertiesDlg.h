@@ -14,6 +14,10 @@ class CLookupPropertiesDlg : public CDialog {
 public:
     CLookupPropertiesDlg(const CLookupProperties &properties, CWnd *parent);
 
+    // Shows the dialog with what was chosen last, or with `properties` the first time. False, and nothing
+    // changed, when it is cancelled.
+    static bool Ask(CLookupProperties &properties, CWnd *parent);
+
     CLookupProperties m_properties; // as chosen, once the dialog has ended with IDOK
 
 protected:
