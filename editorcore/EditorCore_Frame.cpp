@@ -2,6 +2,7 @@
 #include "editorcore/EditorCore.h"
 
 #include "lookup/LookupTableFile.h"
+#include "lookup/LookupOptionsMgr.h"
 
 IMPLEMENT_DYNAMIC(CEditorCore, CUGOrvaneCtrlInterfaceLayer)
 
@@ -36,6 +37,7 @@ void CEditorCore::Initialise(CVAppInterface *host) {
     options->GetHeadingFont(&ms_lfHeadingFont);
     ms_nMaxDisplayColWidth = options->GetMaxDisplayColWidth();
     ms_bEnterKeyIsTab = options->IsEnterKeyTab();
+    CLookupOptionsMgr::InitialSetAllOptions(host);
 }
 
 void CEditorCore::SetEnterKey(bool isTab) {

@@ -7,11 +7,15 @@
 #include "host/GalleryFrame.h"
 #include "host/MainFrame.h"
 #include "host/Resource.h"
+#include "lookup/LookupOptionsMgr.h"
+#include "lookup/LookupRegKey.h"
 
 BEGIN_MESSAGE_MAP(CHostApp, CWinApp)
     ON_COMMAND(ID_FILE_OPEN, OnFileOpen)
     ON_COMMAND(ID_HELP_GALLERY, OnGallery)
     ON_COMMAND(ID_APP_ABOUT, OnAbout)
+    ON_COMMAND(ID_LOOKUP_USER_OPTIONS, OnLookupUserOptions)
+    ON_COMMAND(ID_LOOKUP_ADMIN_OPTIONS, OnLookupAdminOptions)
 END_MESSAGE_MAP()
 
 static CHostApp theApp;
@@ -28,6 +32,7 @@ BOOL CHostApp::InitInstance() {
     LoadStdProfileSettings(kRecentFiles);
     AfxOleInit();
     m_service.Options().Load();
+    CLookupRegKey::SetRootRegKey(HKEY_CURRENT_USER, "Software\\Orvane\\Orvane Tables\\Lookups");
     CEditorCore::Initialise(&m_service);
     auto *frame = new CMainFrame;
     if (!frame->LoadFrame(IDR_MAINFRAME))
@@ -108,4 +113,12 @@ void CHostApp::OnGallery() {
 
 void CHostApp::OnAbout() {
     CDialog(IDD_ABOUT, m_pMainWnd).DoModal();
+}
+
+void CHostApp::OnLookupUserOptions() {
+    CLookupOptionsMgr().OnUserOptions();
+}
+
+void CHostApp::OnLookupAdminOptions() {
+    CLookupOptionsMgr().OnAdminOptions();
 }

@@ -22,6 +22,8 @@ private:
     afx_msg void OnFileOpen();
     afx_msg void OnGallery();
     afx_msg void OnAbout();
+    afx_msg void OnLookupUserOptions();
+    afx_msg void OnLookupAdminOptions();
 
     CString CommandLineFile() const;
 

@@ -7,6 +7,9 @@
 #include "host/FieldListDlg.h"
 #include "host/FileInformation.h"
 #include "host/FilterListDlg.h"
+#include "host/LookupAdminDlg.h"
+#include "host/LookupOptionsDlg.h"
+#include "host/LookupPropertiesDlg.h"
 #include "host/MainFrame.h"
 #include "host/Resource.h"
 #include "host/sources/DbfDataSource.h"
@@ -14,10 +17,6 @@
 #include <algorithm>
 
 namespace {
-
-const char *const kLookupSection = "Lookup";
-constexpr UINT kCodeWidth = 5; // characters
-constexpr UINT kDescriptionWidth = 15;
 
 // The editor whose commands the menus serve; null when no table's window is in front.
 CTableEditor *ActiveEditor() {
@@ -152,39 +151,67 @@ void CHostService::ShowReplaceDialog(bool inMultipleSelection, CWnd *, UINT mess
 }
 
 void CHostService::GetDefaultFieldWidths(UINT *code, UINT *description) {
-    *code = AfxGetApp()->GetProfileInt(kLookupSection, "CodeWidth", kCodeWidth);
-    *description = AfxGetApp()->GetProfileInt(kLookupSection, "DescriptionWidth", kDescriptionWidth);
+    CHostLookupOptions options;
+    options.Load();
+    *code = options.m_codeWidth;
+    *description = options.m_descriptionWidth;
 }
 
 void CHostService::SetDefaultFieldWidths(UINT code, UINT description) {
-    AfxGetApp()->WriteProfileInt(kLookupSection, "CodeWidth", static_cast<int>(code));
-    AfxGetApp()->WriteProfileInt(kLookupSection, "DescriptionWidth", static_cast<int>(description));
+    CHostLookupOptions options;
+    options.m_codeWidth = code;
+    options.m_descriptionWidth = description;
+    options.SaveWidths();
 }
 
-bool CHostService::EditLookupTableProperties(bool *, bool *, bool *, bool *) {
-    return false;
+bool CHostService::EditLookupTableProperties(bool *caseSensitive, bool *acceptEmptyCells, bool *enableValidation,
+                                             bool *sortMenuItems) {
+    CLookupProperties properties{*caseSensitive, *acceptEmptyCells, *enableValidation, *sortMenuItems};
+    if (!CLookupPropertiesDlg::Ask(properties, AfxGetMainWnd()))
+        return false;
+    *caseSensitive = properties.m_caseSensitive;
+    *acceptEmptyCells = properties.m_acceptEmptyCells;
+    *enableValidation = properties.m_enableValidation;
+    *sortMenuItems = properties.m_sortMenuItems;
+    return true;
 }
 
 void CHostService::GetLookupOptions(bool *validate, bool *validateOnKey, bool *resolveSubMenus,
                                     bool *allowPartialCodes, bool *beepOnInvalid, int *invalidAction,
                                     CString *replaceString, CString *prependString) {
-    CWinApp *app = AfxGetApp();
-    *validate = app->GetProfileInt(kLookupSection, "Validate", 1) != 0;
-    *validateOnKey = app->GetProfileInt(kLookupSection, "ValidateOnKey", 1) != 0;
-    *resolveSubMenus = app->GetProfileInt(kLookupSection, "ResolveSubMenus", 1) != 0;
-    *allowPartialCodes = app->GetProfileInt(kLookupSection, "AllowPartialCodes", 0) != 0;
-    *beepOnInvalid = app->GetProfileInt(kLookupSection, "BeepOnInvalid", 1) != 0;
-    *invalidAction = static_cast<int>(app->GetProfileInt(kLookupSection, "InvalidAction", 0));
-    *replaceString = app->GetProfileString(kLookupSection, "ReplaceString");
-    *prependString = app->GetProfileString(kLookupSection, "PrependString");
+    CHostLookupOptions options;
+    options.Load();
+    *validate = options.m_validate;
+    *validateOnKey = options.m_validateOnKey;
+    *resolveSubMenus = options.m_resolveSubMenus;
+    *allowPartialCodes = options.m_allowPartialCodes;
+    *beepOnInvalid = options.m_beepOnInvalid;
+    *invalidAction = options.m_invalidAction;
+    *replaceString = options.m_replaceString;
+    *prependString = options.m_prependString;
 }
 
-bool CHostService::EditLookupUserOptions(bool *, bool *, bool *, bool *, bool *, int *, CString *, CString *,
-                                         UINT *, UINT *) {
-    return false;
+bool CHostService::EditLookupUserOptions(bool *validate, bool *validateOnKey, bool *resolveSubMenus,
+                                         bool *allowPartialCodes, bool *beepOnInvalid, int *invalidAction,
+                                         CString *replaceString, CString *prependString, UINT *codeWidth,
+                                         UINT *descriptionWidth) {
+    CHostLookupOptions stored;
+    stored.Load();
+    CLookupOptionsDlg dialog(stored, AfxGetMainWnd());
+    if (dialog.DoModal() != IDOK)
+        return false;
+    dialog.m_options.Save();
+    GetLookupOptions(validate, validateOnKey, resolveSubMenus, allowPartialCodes, beepOnInvalid, invalidAction,
+                     replaceString, prependString);
+    *invalidAction = LookupAction::ForDialog(dialog.m_options.m_invalidAction);
+    *codeWidth = dialog.m_options.m_codeWidth;
+    *descriptionWidth = dialog.m_options.m_descriptionWidth;
+    return true;
 }
 
-void CHostService::EditLookupAdminOptions(CLookupOptionsMgr *) {}
+void CHostService::EditLookupAdminOptions(CLookupOptionsMgr *manager) {
+    CLookupAdminDlg(*manager, AfxGetMainWnd()).DoModal();
+}
 
 bool CHostService::EditFilter(int number, const char *) {
     const dbf::Table *table = ActiveTable();

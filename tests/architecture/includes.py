@@ -15,8 +15,8 @@ MAY_INCLUDE = {
     "dataeditor": {"dataeditor", "editorcore", "lookup", "search", "grid", "framework"},
     "host": {"host", "dataeditor", "search", "editorcore", "lookup", "grid", "framework"},
 }
-# Single headers that a room may include beside those: the host's, which everyone may know.
-MAY_ALSO = {"lookup": {"editorcore/AppInterface.h"}}
+# Single headers that a room may include beside those: the host's, which everyone may know, and the scope of dialogs.
+MAY_ALSO = {"lookup": {"editorcore/AppInterface.h", "editorcore/ResourceScope.h"}}
 LONGEST = 800  # lines
 INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([^">]+)[">]', re.M)
 PLATFORM_TEST = re.compile(r"^\s*#\s*if.*(_WIN32|__linux__|_MSC_VER|__MINGW)", re.M)

@@ -160,6 +160,11 @@ TEST_F(EditorFrameTest, InitialisingReadsTheHostsOptions) {
     EXPECT_EQ(-21, font.lfHeight);
 }
 
+TEST_F(EditorFrameTest, InitialisingTakesTheLookupOptions) {
+    CEditorCore::Initialise(&m_service);
+    EXPECT_EQ("GetLookupOptions GetWidths(10,10) SetWidths(10,10)", m_log.Take());
+}
+
 TEST_F(EditorFrameTest, SettingsOfTheHostReachTheHistoryAndTheStatics) {
     TestEditor &editor = Open(1, 1);
     EXPECT_EQ(5, editor.Commands()->GetMaxCommands());

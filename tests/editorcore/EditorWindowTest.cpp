@@ -77,6 +77,7 @@ EditorWindowTest::EditorWindowTest() {
     fs::remove_all(m_folder, none); // of a run of the same number that was ended
     fs::create_directories(m_folder);
     CEditorCore::Initialise(&m_service);
+    m_log.Take();
     TestApp().Answer({});
     TestApp().TakeBoxes();
 }

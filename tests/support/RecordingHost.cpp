@@ -46,3 +46,48 @@ CUGDataSource *RecordingHost::CreateDataSource(const char *path) {
     m_sources.pop_front();
     return source;
 }
+
+void RecordingHost::GetDefaultFieldWidths(UINT *code, UINT *description) {
+    m_log->Note("GetWidths(" + std::to_string(*code) + "," + std::to_string(*description) + ")");
+    if (m_widths[0] != 0)
+        *code = m_widths[0];
+    if (m_widths[1] != 0)
+        *description = m_widths[1];
+}
+
+void RecordingHost::SetDefaultFieldWidths(UINT code, UINT description) {
+    m_log->Note("SetWidths(" + std::to_string(code) + "," + std::to_string(description) + ")");
+}
+
+void RecordingHost::CopyLookup(bool *validate, bool *validateOnKey, bool *resolveSubMenus, bool *allowPartialCodes,
+                               bool *beepOnInvalid, int *invalidAction, CString *replaceString,
+                               CString *prependString) const {
+    *validate = m_lookup.m_validate;
+    *validateOnKey = m_lookup.m_validateOnKey;
+    *resolveSubMenus = m_lookup.m_resolveSubMenus;
+    *allowPartialCodes = m_lookup.m_allowPartialCodes;
+    *beepOnInvalid = m_lookup.m_beepOnInvalid;
+    *invalidAction = m_lookup.m_invalidAction;
+    *replaceString = m_lookup.m_replaceString;
+    *prependString = m_lookup.m_prependString;
+}
+
+void RecordingHost::GetLookupOptions(bool *validate, bool *validateOnKey, bool *resolveSubMenus,
+                                     bool *allowPartialCodes, bool *beepOnInvalid, int *invalidAction,
+                                     CString *replaceString, CString *prependString) {
+    m_log->Note("GetLookupOptions");
+    CopyLookup(validate, validateOnKey, resolveSubMenus, allowPartialCodes, beepOnInvalid, invalidAction,
+               replaceString, prependString);
+}
+
+bool RecordingHost::EditLookupUserOptions(bool *validate, bool *validateOnKey, bool *resolveSubMenus,
+                                          bool *allowPartialCodes, bool *beepOnInvalid, int *invalidAction,
+                                          CString *replaceString, CString *prependString, UINT *codeWidth,
+                                          UINT *descriptionWidth) {
+    m_log->Note("UserOptions");
+    CopyLookup(validate, validateOnKey, resolveSubMenus, allowPartialCodes, beepOnInvalid, invalidAction,
+               replaceString, prependString);
+    *codeWidth = m_lookup.m_codeWidth;
+    *descriptionWidth = m_lookup.m_descriptionWidth;
+    return m_lookupAnswer;
+}

@@ -45,6 +45,20 @@ private:
     CallLog *m_log;
 };
 
+// What a host keeps of the lookup options; the dialog of the user options gives the same.
+struct RecordedLookupOptions {
+    bool m_validate = true;
+    bool m_validateOnKey = false;
+    bool m_resolveSubMenus = false;
+    bool m_allowPartialCodes = false;
+    bool m_beepOnInvalid = false;
+    int m_invalidAction = 0; // index
+    CString m_replaceString;
+    CString m_prependString;
+    UINT m_codeWidth = 0; // of the dialog
+    UINT m_descriptionWidth = 0;
+};
+
 class RecordingHost : public QuietHost {
 public:
     explicit RecordingHost(CallLog *log) : m_options(log), m_log(log) {}
@@ -71,6 +85,19 @@ public:
         NoteDialog("ReplaceDialog", selection, message);
     }
     CVEditorOptions *GetEditorOptions() override { return &m_options; }
+    // Leaves the widths as they come unless m_widths says otherwise.
+    void GetDefaultFieldWidths(UINT *code, UINT *description) override;
+    void SetDefaultFieldWidths(UINT code, UINT description) override;
+    void GetLookupOptions(bool *validate, bool *validateOnKey, bool *resolveSubMenus, bool *allowPartialCodes,
+                          bool *beepOnInvalid, int *invalidAction, CString *replaceString,
+                          CString *prependString) override;
+    bool EditLookupUserOptions(bool *validate, bool *validateOnKey, bool *resolveSubMenus, bool *allowPartialCodes,
+                               bool *beepOnInvalid, int *invalidAction, CString *replaceString,
+                               CString *prependString, UINT *codeWidth, UINT *descriptionWidth) override;
+    void EditLookupAdminOptions(CLookupOptionsMgr *manager) override {
+        m_log->Note("AdminOptions");
+        m_adminManager = manager;
+    }
     bool EditFilter(int number, const char *path) override {
         m_log->Note("EditFilter(" + std::to_string(number) + "," + path + ")");
         return m_filterAnswer;
@@ -91,11 +118,17 @@ public:
     std::function<void(CEditorCore *)> m_onTitle;
     std::function<bool(CStringArray *)> m_onOrder;
     std::function<bool(CString &, bool *, bool)> m_onSaveAs;
+    RecordedLookupOptions m_lookup;
+    bool m_lookupAnswer = true;
+    UINT m_widths[2] = {0, 0}; // 0 for what the library proposes
+    CLookupOptionsMgr *m_adminManager = nullptr;
     bool m_filterAnswer = true;
     int m_filterChosen = 0;
     std::function<void(CStringArray &, CArray<bool, bool> &)> m_onVisibility;
 
 private:
+    void CopyLookup(bool *validate, bool *validateOnKey, bool *resolveSubMenus, bool *allowPartialCodes,
+                    bool *beepOnInvalid, int *invalidAction, CString *replaceString, CString *prependString) const;
     void NoteDialog(const char *which, bool selection, UINT message) {
         m_log->Note(std::string(which) + "(" + std::to_string(selection) + "," + std::to_string(message) + ")");
     }

@@ -1,0 +1,3 @@
+#include "lookup/LookupList.h"
+
+bool CLookupList::ms_bAllowPartial = false;
