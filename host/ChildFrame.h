@@ -50,6 +50,7 @@ protected:
     afx_msg void OnColumnsFit();
     afx_msg void OnColumnsReset();
     afx_msg void OnColumnsFreeze();
+    afx_msg void OnLookupCompile();
     afx_msg void OnFilterSelect();
     afx_msg void OnFilterEdit();
     afx_msg void OnFilterDefault();

@@ -120,6 +120,11 @@ void CChildFrame::OnColumnsFreeze() {
     m_editor.OnLockColumns();
 }
 
+void CChildFrame::OnLookupCompile() {
+    m_editor.SaveEditContents();
+    m_editor.CompileLookupTable();
+}
+
 void CChildFrame::OnFilterSelect() {
     m_editor.SaveEditContents();
     m_editor.OnSelectAttachFilter();

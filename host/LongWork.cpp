@@ -102,7 +102,7 @@ CRect CLongWork::TextArea() const {
 void CLongWork::Update() {
     const ULONGLONG round = (m_lastLook - m_begun) % kRoundMs * kBarSteps / kRoundMs;
     m_bar.SetPos(static_cast<int>(m_all > 0 ? m_done * kBarSteps / m_all : round));
-    m_text = Grouped(m_done) + (m_all > 0 ? " of " + Grouped(m_all) + " records" : CString(" cells done"));
+    m_text = Grouped(m_done) + (m_all > 0 ? " of " + Grouped(m_all) + " records" : CString(" done"));
     InvalidateRect(TextArea(), FALSE);
     UpdateWindow();
     m_bar.UpdateWindow();

@@ -21,6 +21,10 @@ public:
     // "2 columns", "5 records" or "3 x 12 cells"; empty for the current cell alone.
     CString DescribeSelection();
 
+    // Compiles the table, codes and descriptions in pairs of fields, to a lookup table beside it, and says how that went;
+    // the cell that is wrong becomes the current one.
+    void CompileLookupTable();
+
     int OnCanMove(int oldCol, long oldRow, int newCol, long newRow) override;
     void OnRClicked(int col, long row, int updn, RECT *rect, POINT *point, int processed) override;
     void OnTH_RClicked(int col, int updn) override;

@@ -13,14 +13,6 @@ LAST_NAME = 1  # column
 ENDLESS = r"(\w|\w\w)*(\w|\w\w)*(\w|\w\w)*(\w|\w\w)*(\w|\w\w)*(?=~)"
 
 
-def write_many(path):
-    """50,000 records with one field of twenty letters."""
-    field = b"LETTERS".ljust(11, b"\0") + b"C" + bytes(4) + bytes([20]) + bytes(15)
-    header = bytes([3, 126, 1, 1]) + (50000).to_bytes(4, "little") + (65).to_bytes(2, "little") + (21).to_bytes(2, "little")
-    with open(path, "wb") as file:
-        file.write(header.ljust(32, b"\0") + field + b"\r" + (b" " + b"a" * 20) * 50000 + b"\x1a")
-
-
 class Filter(sessions.Session):
     def setUp(self):
         super().setUp()
@@ -159,7 +151,7 @@ class Filter(sessions.Session):
 
     def test_escape_and_a_button_stop_a_search_that_would_take_long(self):
         path = os.path.join(self.folder, "many.dbf")
-        write_many(path)
+        sessions.write_table(path, [("LETTERS", 20)], ["a" * 20] * 50000)
         self.host.keys("alt+F4")
         self.host.await_end()
         self.host = self.start(path)

@@ -36,6 +36,17 @@ def bytes_of(path):
         return file.read()
 
 
+def write_table(path, fields, records):
+    """Writes a table of text fields (name, width); the records are texts as wide as all fields together."""
+    width = 1 + sum(size for _, size in fields)
+    head = bytes([3, 126, 1, 1]) + len(records).to_bytes(4, "little") + (33 + 32 * len(fields)).to_bytes(2, "little")
+    head = (head + width.to_bytes(2, "little")).ljust(32, b"\0")
+    for name, size in fields:
+        head += name.encode().ljust(11, b"\0") + b"C" + bytes(4) + bytes([size]) + bytes(15)
+    with open(path, "wb") as file:
+        file.write(head + b"\r" + b"".join(b" " + record.encode() for record in records) + b"\x1a")
+
+
 def forget(section):
     """Takes back what the host keeps in a section of its settings."""
     subprocess.run(["/usr/lib/wine/wine64", "reg", "delete", rf"HKCU\Software\Orvane\Orvane Tables\{section}", "/f"],
