@@ -10,7 +10,7 @@
 #include <functional>
 #include <string>
 
-class RecordingOptions : public QuietOptions {
+class RecordingOptions : public CQuietEditorOptions {
 public:
     explicit RecordingOptions(CallLog *log);
 
