@@ -45,6 +45,12 @@ TEST(CellPattern, EndlessPatternsWithoutAnEndInTheTextAreToldBeforehand) {
     EXPECT_TRUE(pattern.Matches("aab"));
 }
 
+TEST(CellPattern, AGroupThatRepeatsNeedNotStandBeforeWhatFollowsOnce) {
+    EXPECT_TRUE(CellPattern("x(ab)+c", true).Matches("xababc"));
+    EXPECT_TRUE(CellPattern("x(a(b)+)+c", true).Matches("xabbabc"));
+    EXPECT_TRUE(CellPattern("x(?<_before>.*?)(ab)+?c", true).Matches("xababc"));
+}
+
 TEST(CellPattern, OnlyTheFirstMatchIsReplaced) {
     std::string replaced;
     EXPECT_TRUE(CellPattern("b", true).ReplaceFirst("abab", "x", &replaced));
@@ -61,7 +67,7 @@ TEST(RequiredText, TheLongestRunThatEveryMatchHolds) {
 }
 
 TEST(RequiredText, WhereTheMeaningIsNotPlainThereIsNone) {
-    for (const char *pattern : {"a|b", "(ab)?", "(ab)*c", "[ab]c", "(?i)abc", "a{0}bc", "\\x41bc", "(?=a)b", "\\Qab\\E", ""})
+    for (const char *pattern : {"a|b", "(ab)?", "(ab)*c", "x(ab)+c", "[ab]c", "(?i)abc", "a{0}bc", "\\x41bc", "(?=a)b", "\\Qab\\E", ""})
         EXPECT_EQ("", RequiredText(pattern)) << pattern;
 }
 
