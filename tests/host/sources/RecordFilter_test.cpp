@@ -97,6 +97,16 @@ TEST(RecordFilter, ChangesOfAnyKindAgreeWithAFreshFilter) {
     }
 }
 
+TEST(RecordFilter, FollowsATableThatBeginsWithoutRecords) {
+    MemoryFiles files;
+    const auto table = openBytes(files, header(0x03, 0, 4, descriptor("A", 'N', 3)));
+    const auto filter = attach(*table, "A > 0");
+    EXPECT_EQ(passing(*filter, *table), "");
+    ASSERT_TRUE(table->insertRows(0, 2));
+    ASSERT_TRUE(table->setCellText(1, 0, "7"));
+    EXPECT_EQ(passing(*filter, *table), "-+");
+}
+
 TEST(RecordFilter, ARecordThatCannotBeEvaluatedIsUnknown) {
     MemoryFiles files;
     const auto wide = openBytes(files, header(0x03, 2, 11, descriptor("N", 'N', 10)) + "          1" + "          2");
