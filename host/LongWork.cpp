@@ -124,13 +124,14 @@ void CLongWork::LookAtInput() {
 
 void CLongWork::End() {
     m_begun = 0;
-    if (GetSafeHwnd() == nullptr)
-        return;
-    LookAtInput();
-    DestroyWindow();
-    MSG message;
-    while (::PeekMessage(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE)) {
+    if (GetSafeHwnd() != nullptr) {
+        LookAtInput();
+        DestroyWindow();
+        MSG message;
+        while (::PeekMessage(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE)) {
+        }
     }
+    m_stopped = false; // short work asks Step without a beginning, and is not what was stopped
 }
 
 BOOL CLongWork::OnEraseBkgnd(CDC *) {
