@@ -27,6 +27,12 @@ CString Grouped(std::uint64_t number) {
     return digits.c_str();
 }
 
+// Pressed in a window of another program the key is none for this one.
+bool IsEscapeDown() {
+    return (::GetAsyncKeyState(VK_ESCAPE) & 0x8000) != 0 &&
+           ::GetWindowThreadProcessId(::GetForegroundWindow(), nullptr) == ::GetCurrentThreadId();
+}
+
 CStatusBar *StatusBar() {
     CWnd *frame = AfxGetMainWnd();
     return frame != nullptr ? DYNAMIC_DOWNCAST(CStatusBar, frame->GetDescendantWindow(AFX_IDW_STATUS_BAR)) : nullptr;
@@ -63,7 +69,7 @@ bool CLongWork::GoesOn() {
             Update();
             LookAtInput();
         }
-        m_stopped = m_stopped || (::GetAsyncKeyState(VK_ESCAPE) & 0x8000) != 0;
+        m_stopped = m_stopped || IsEscapeDown();
     }
     return !m_stopped;
 }

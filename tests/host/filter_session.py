@@ -4,7 +4,7 @@ import os
 import re
 
 import sessions
-from hostdriver import wait_for
+from hostdriver import Host, wait_for
 from sessions import RECORD, records
 
 FILTER = 6  # pane of the status bar
@@ -90,6 +90,20 @@ class Filter(sessions.Session):
         self.host.set_clipboard("untouched")
         self.host.keys("ctrl+c")
         wait_for("the clipboard", lambda: self.host.clipboard() == "a" * 20)
+
+    def test_escape_in_another_program_stops_nothing(self):
+        self.open_many()
+        self.host.keys("ctrl+f")
+        self.host.await_title("Find")
+        self.host.type(ENDLESS)
+        self.host.keys("alt+x", "Return")
+        self.host.await_window(text="Stop (Esc)")
+        other = Host("notepad")
+        self.addCleanup(other.kill)
+        other.await_title("Untitled - Notepad")
+        other.xdotool("search", "--name", "Untitled - Notepad", "mousemove", "--window", "%1", "100", "100", "click", "1")
+        other.xdotool("keydown", "Escape", "sleep", "0.5", "keyup", "Escape")
+        self.assertIsNotNone(self.host.find(text="Stop (Esc)"))
 
     def test_a_mistake_is_named_as_it_is_typed(self):
         self.host.keys("F7")
