@@ -400,6 +400,18 @@ TEST_F(DbfDataSource, OpensWithAFilterOrNotAtAll) {
     EXPECT_EQ(passing(), "-+-");
 }
 
+TEST_F(DbfDataSource, ATableForViewingIsFilteredAndNothingInItDeleted) {
+    define(3, "ACTIVE = 'F'");
+    ASSERT_EQ(source.Open(path.c_str(), " -filter 3-view "), 0) << "as an editor joins them";
+    EXPECT_EQ(passing(), "-+-");
+    EXPECT_NE(source.DeleteRows(-1, -1), 0);
+    EXPECT_EQ(told, "\"" + path + "\" was opened for viewing only|");
+    EXPECT_EQ(source.GetNumRows(), 3);
+    define(3, "ACTIVE = 'T'");
+    EXPECT_EQ(source.SetOption(UGSRC_ATTACH_FILTER, 3, 0), 0);
+    EXPECT_EQ(passing(), "+--");
+}
+
 TEST_F(DbfDataSource, DeletesTheFilteredRecordsAsOneStep) {
     ASSERT_EQ(source.Open(path.c_str(), ""), 0);
     EXPECT_NE(source.DeleteRows(-1, -1), 0);
