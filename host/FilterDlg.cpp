@@ -14,7 +14,8 @@ END_MESSAGE_MAP()
 
 namespace {
 
-constexpr filter::Row kMostCounted = 200'000; // records that are counted while the user types
+constexpr filter::Row kMostCounted = 200'000; // records that are counted while the user types,
+constexpr ULONGLONG kLongestCountMs = 150;    // in about this time at most: memos take longer than numbers
 
 CString TextOf(CWnd *window) {
     CString text;
@@ -77,12 +78,18 @@ bool CFilterDlg::Check(filter::Mistake *mistake) {
 }
 
 CString CFilterDlg::CountPassing(filter::Expression &expression) const {
-    const filter::Row rows = std::min<filter::Row>(m_table.rowCount(), kMostCounted);
+    filter::Row rows = std::min<filter::Row>(m_table.rowCount(), kMostCounted);
     unsigned long passing = 0;
     filter::Mistake mistake;
-    const auto outcome = expression.walk(0, rows, [&](filter::Row) { ++passing; }, {}, mistake);
+    const ULONGLONG begun = ::GetTickCount64();
+    const auto goOn = [&](filter::Row done) {
+        const bool inTime = ::GetTickCount64() - begun < kLongestCountMs;
+        rows = inTime ? rows : done;
+        return inTime;
+    };
+    const auto outcome = expression.walk(0, rows, [&](filter::Row) { ++passing; }, goOn, mistake);
     CString text;
-    if (outcome != filter::Expression::Outcome::done)
+    if (outcome == filter::Expression::Outcome::failed)
         text = mistake.text.c_str();
     else
         text.Format(rows < m_table.rowCount() ? "%lu of the first %lu records pass." : "%lu of %lu records pass.", passing,

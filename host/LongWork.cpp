@@ -27,6 +27,12 @@ CString Grouped(std::uint64_t number) {
     return digits.c_str();
 }
 
+// Pressed in a window of another program the key is none for this one.
+bool IsEscapeDown() {
+    return (::GetAsyncKeyState(VK_ESCAPE) & 0x8000) != 0 &&
+           ::GetWindowThreadProcessId(::GetForegroundWindow(), nullptr) == ::GetCurrentThreadId();
+}
+
 CStatusBar *StatusBar() {
     CWnd *frame = AfxGetMainWnd();
     return frame != nullptr ? DYNAMIC_DOWNCAST(CStatusBar, frame->GetDescendantWindow(AFX_IDW_STATUS_BAR)) : nullptr;
@@ -63,7 +69,7 @@ bool CLongWork::GoesOn() {
             Update();
             LookAtInput();
         }
-        m_stopped = m_stopped || (::GetAsyncKeyState(VK_ESCAPE) & 0x8000) != 0;
+        m_stopped = m_stopped || IsEscapeDown();
     }
     return !m_stopped;
 }
@@ -124,13 +130,14 @@ void CLongWork::LookAtInput() {
 
 void CLongWork::End() {
     m_begun = 0;
-    if (GetSafeHwnd() == nullptr)
-        return;
-    LookAtInput();
-    DestroyWindow();
-    MSG message;
-    while (::PeekMessage(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE)) {
+    if (GetSafeHwnd() != nullptr) {
+        LookAtInput();
+        DestroyWindow();
+        MSG message;
+        while (::PeekMessage(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE)) {
+        }
     }
+    m_stopped = false; // short work asks Step without a beginning, and is not what was stopped
 }
 
 BOOL CLongWork::OnEraseBkgnd(CDC *) {

@@ -11,7 +11,8 @@ class CLongWork : public CWnd {
 public:
     // The work begins, or goes on after a question to the user: the bar appears some moments from now.
     void Begin();
-    // One piece more is done; called for every cell. False when the user wants no more.
+    // One piece more is done; called for every cell, of work too short for a beginning too. False when the user wants
+    // no more.
     bool Step();
     // The same, of work whose extent is known.
     bool StepTo(std::uint64_t done, std::uint64_t all);

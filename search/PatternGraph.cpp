@@ -72,8 +72,10 @@ private:
         }
         for (int i = piece.least; i < piece.most && !m_tooLarge; ++i)
             start = Fork(Build(body, start), next);
-        for (int i = 0; i < piece.least && !m_tooLarge; ++i)
+        for (int i = 0, before = -1; i < piece.least && start != before && !m_tooLarge; ++i) {
+            before = start; // where it is the start again the body is empty, however often it stands there
             start = Build(body, start);
+        }
         return start;
     }
 

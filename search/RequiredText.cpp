@@ -25,6 +25,9 @@ private:
     }
     void GiveUp() { m_plain = false; }
     bool Follows(const char *text) const { return m_pattern.compare(m_at, std::char_traits<char>::length(text), text) == 0; }
+    bool IsQuantified(size_t at) const {
+        return at < m_pattern.size() && std::string("*+?{").find(m_pattern[at]) != std::string::npos;
+    }
     // A quantifier that lets its atom be absent.
     bool MayBeAbsent(size_t at) const {
         return at < m_pattern.size() && std::string("*?{").find(m_pattern[at]) != std::string::npos;
@@ -41,7 +44,7 @@ private:
         else
             m_run += c;
         m_at += length;
-        if (m_at < m_pattern.size() && std::string("*?+{").find(m_pattern[m_at]) != std::string::npos) {
+        if (IsQuantified(m_at)) {
             EndRun();
             SkipQuantifier();
         }
@@ -76,7 +79,7 @@ private:
         switch (c) {
         case '\\': ReadEscape(); break;
         case '(': ReadOpening(); break;
-        case ')': MayBeAbsent(++m_at) ? GiveUp() : SkipQuantifier(); break;
+        case ')': IsQuantified(++m_at) ? GiveUp() : void(); break;
         case '.': Opaque(1); break;
         case '^':
         case '$': Opaque(1); break;

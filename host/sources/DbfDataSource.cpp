@@ -182,7 +182,10 @@ int CDbfDataSource::SaveAs(const char *name, const char *options) {
         }
         const dbf::Result saved = table.saveAs(name, keep, overwrite);
         if (saved) {
-            TakeFiltersAlong(before, name);
+            Guarded([&]() -> int {
+                TakeFiltersAlong(before, name);
+                return GRID_SUCCESS;
+            });
         }
         return saved;
     });
@@ -339,7 +342,7 @@ int CDbfDataSource::FindFrom(dbf::Table::Row row, int col, const char *text, lon
 }
 
 int CDbfDataSource::FindFirst(int col, const char *text, long *row) {
-    return FindFrom(0, col, text, row);
+    return Guarded([&] { return FindFrom(0, col, text, row); });
 }
 
 int CDbfDataSource::FindNext(int col, const char *text, long *row) {
@@ -351,7 +354,11 @@ int CDbfDataSource::GetOption(int option, void *value1, void *value2) {
         return GRID_ERROR;
     }
     switch (option) {
-    case UGSRC_PATH: **static_cast<CString **>(value1) = m_table->path().c_str(); return GRID_SUCCESS;
+    case UGSRC_PATH:
+        return Guarded([&]() -> int {
+            **static_cast<CString **>(value1) = m_table->path().c_str();
+            return GRID_SUCCESS;
+        });
     case UGSRC_WRITABLE: *static_cast<int *>(value1) = m_table->isWritable() ? 1 : 0; return GRID_SUCCESS;
     case UGSRC_PASSES_FILTER:
         return AskFilter(*static_cast<const long *>(value1), static_cast<int *>(value2));

@@ -26,7 +26,7 @@ public:
         std::function<bool(CDbfDataSource &)> mayClose;
         // Somebody else changed the file since it was read. True overwrites it. Empty: it is not overwritten.
         std::function<bool(const std::string &path)> mayOverwrite;
-        // A filter is being worked out: records done, and all of them. False stops it. Called every few thousand.
+        // A filter is being worked out: records done, and all of them. False stops it. Called every few hundred.
         std::function<bool(std::uint64_t done, std::uint64_t all)> progress;
     };
 

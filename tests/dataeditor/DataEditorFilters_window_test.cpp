@@ -194,9 +194,23 @@ TEST_F(DataEditorFiltersTest, FilteredRecordsAreDeletedAsAWholeAfterAQuestion) {
     editor.OnDeleteRows();
     EXPECT_EQ("Delete filtered records?\n\n(You will not be able to undo this operation)|36", TestApp().TakeBoxes());
     EXPECT_EQ("", m_log.Take());
-    m_source->m_results["DeleteRow"] = GRID_ERROR;
     editor.OnDeleteRows();
     EXPECT_EQ("Delete filtered records?\n\n(You will not be able to undo this operation)|36", TestApp().TakeBoxes());
+    EXPECT_NE(std::string::npos, m_log.Take().find("src.DeleteRows(-1,-1)"));
+    EXPECT_EQ(3, editor.GetNumberRows());
+    EXPECT_EQ("0.1", m_source->Text(0, 0));
+    EXPECT_NE(0, editor.m_GI.m_paintingEnabled);
+}
+
+TEST_F(DataEditorFiltersTest, FilteredRecordsThatCannotBeDeletedAreToldOf) {
+    TestDataEditor &editor = OpenFiltered(2, 5, {1, 4});
+    m_source->m_results["DeleteRows"] = GRID_ERROR;
+    TestApp().Answer({IDYES});
+    editor.OnDeleteRows();
+    const std::string boxes = TestApp().TakeBoxes();
+    EXPECT_NE(std::string::npos, boxes.find("Error while deleting filtered records!|16")) << boxes;
+    EXPECT_EQ(5, editor.GetNumberRows());
+    EXPECT_NE(0, editor.m_GI.m_paintingEnabled);
 }
 
 TEST_F(DataEditorFiltersTest, WithAMultipleSelectionTheSelectionIsDeleted) {

@@ -3,7 +3,16 @@
 
 namespace {
 
-class DataEditorFrameTest : public DataEditorTest {};
+class DataEditorFrameTest : public DataEditorTest {
+protected:
+    // Is a row to be painted again? Its number, or -1.
+    static long RowToRefresh(TestDataEditor &editor) {
+        MSG message;
+        return ::PeekMessageA(&message, editor.m_hWnd, kMsgRefreshRow, kMsgRefreshRow, PM_REMOVE)
+                   ? static_cast<long>(message.lParam)
+                   : -1;
+    }
+};
 
 TEST_F(DataEditorFrameTest, AFilterOfZeroOrMoreGoesToTheSourceWithTheOptions) {
     TestDataEditor &editor = MakeEditor();
@@ -16,13 +25,21 @@ TEST_F(DataEditorFrameTest, AFilterOfZeroOrMoreGoesToTheSourceWithTheOptions) {
 }
 
 TEST_F(DataEditorFrameTest, AFilterBelowMinusOneIsNoneToTheCommandsAndOneToThePainting) {
-    TestDataEditor &editor = OpenEditor(2, 2, -2);
+    TestDataEditor &editor = MakeEditor();
+    m_source = Source(2, 2);
+    EXPECT_TRUE(editor.LoadData("t", nullptr, -2, kEditNormal, nullptr));
+    EXPECT_NE(std::string::npos, m_log.Take().find("src.Open(t,) "));
+    Forget();
+    EXPECT_EQ(-2, editor.GetFilter());
     EXPECT_FALSE(editor.IsFilterAttached());
     m_source->m_passes = [](long) { return false; };
     CUGCell cell;
     editor.GetCell(0, 0, &cell);
     EXPECT_EQ(0xC8C8C8u, cell.GetBackColor());
+    while (RowToRefresh(editor) >= 0) {
+    }
     editor.GotoCell(1, 1);
+    EXPECT_EQ(0, RowToRefresh(editor));
     EXPECT_EQ("1051(0,0)", m_host.TakeMessages());
 }
 
@@ -73,15 +90,17 @@ TEST_F(DataEditorFrameTest, RecordsThatTheFilterLeavesOutAreGreyed) {
     EXPECT_NE(0xC8C8C8u, cell.GetBackColor());
 }
 
-TEST_F(DataEditorFrameTest, ACellChangeIsToldToTheParentAndWithAFilterTheRowLeftIsPaintedAgain) {
+TEST_F(DataEditorFrameTest, ACellChangeWithoutAFilterIsOnlyToldToTheParent) {
     TestDataEditor &editor = OpenEditor(2, 5);
     editor.GotoCell(1, 2);
+    EXPECT_EQ(-1, RowToRefresh(editor));
     EXPECT_EQ("1051(0,0)", m_host.TakeMessages());
-    TestDataEditor &filtered = OpenFiltered(2, 5, {1, 2, 3, 4, 5});
-    filtered.GotoCell(0, 2);
-    MSG message;
-    EXPECT_TRUE(::PeekMessageA(&message, filtered.m_hWnd, kMsgRefreshRow, kMsgRefreshRow, PM_NOREMOVE));
-    EXPECT_EQ(0, message.lParam);
+}
+
+TEST_F(DataEditorFrameTest, WithAFilterTheRowThatACellChangeLeavesIsPaintedAgain) {
+    TestDataEditor &editor = OpenFiltered(2, 5, {1, 2, 3, 4, 5});
+    editor.GotoCell(0, 2);
+    EXPECT_EQ(0, RowToRefresh(editor));
 }
 
 TEST_F(DataEditorFrameTest, ARightClickIsPostedToTheParent) {
@@ -200,14 +219,24 @@ TEST_F(DataEditorFrameTest, AChoiceOfAPickListSettlesBeforeTheGridGoesOn) {
     EXPECT_EQ(0, editor.m_GI.m_paintingEnabled);
     editor.GotoCell(0, 0);
     ::PostMessageA(editor.Cells(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-    ::SendMessageA(editor.m_hWnd, WM_TIMER, 4711, 0); // another's
-    EXPECT_NE(0u, editor.Timer());
     ::SendMessageA(editor.m_hWnd, WM_TIMER, editor.Timer(), 0);
     EXPECT_EQ("1,2", editor.At());
     EXPECT_EQ(0u, editor.Timer());
     EXPECT_NE(0, editor.m_GI.m_paintingEnabled);
     PumpAll();
     EXPECT_EQ("1,2", editor.At());
+}
+
+TEST_F(DataEditorFrameTest, ATimerOfAnotherLeavesTheSettlingAlone) {
+    TestDataEditor &editor = OpenEditor(3, 5);
+    editor.GotoCell(1, 2);
+    editor.EnterPickListText("picked");
+    const UINT_PTR settling = editor.Timer();
+    editor.GotoCell(0, 0);
+    ::SendMessageA(editor.m_hWnd, WM_TIMER, settling + 1, 0);
+    EXPECT_EQ(settling, editor.Timer());
+    EXPECT_EQ("0,0", editor.At());
+    EXPECT_EQ(0, editor.m_GI.m_paintingEnabled);
 }
 
 TEST_F(DataEditorFrameTest, InReadOnlyModeAPickListEntersNothing) {

@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
 """Filters: made, chosen, kept, stepped over, saved by: filter_session.py HOST-PROGRAM WORK-FOLDER."""
 import os
+import re
 
 import sessions
+from hostdriver import Host, wait_for
 from sessions import RECORD, records
 
 FILTER = 6  # pane of the status bar
@@ -11,6 +13,9 @@ OK, FILTERED_ONLY = 1, 1200
 LAST_NAME = 1  # column
 # Tried in so many ways on each cell that the library gives up on it, after a while.
 ENDLESS = r"(\w|\w\w)*(\w|\w\w)*(\w|\w\w)*(\w|\w\w)*(\w|\w\w)*(?=~)"
+# Takes some tenths of a millisecond for each record.
+SLOW = "length(hex(zeroblob(50000+length(LETTERS))))>9"
+COUNTED = re.compile(r"(\d+) of the first \1 records pass\.$")
 
 
 class Filter(sessions.Session):
@@ -46,6 +51,51 @@ class Filter(sessions.Session):
 
     def await_record(self, number, of=300):
         self.host.await_pane(RECORD, f"Record {number} of {of}")
+
+    def open_many(self):
+        path = os.path.join(self.folder, "many.dbf")
+        sessions.write_table(path, [("LETTERS", 20)], ["a" * 20] * 50000)
+        self.host.keys("alt+F4")
+        self.host.await_end()
+        self.host = self.start(path)
+        self.host.await_table("many.dbf")
+
+    def test_typing_does_not_wait_for_all_records_to_be_counted(self):
+        self.open_many()
+        self.host.keys("F7")
+        self.host.await_title("Filters")
+        self.host.keys("alt+n")
+        self.host.await_title("Filter 1")
+        self.host.type(SLOW)
+        wait_for("a part of the records", lambda: COUNTED.match(self.host.await_window(id=MISTAKE)["text"]))
+
+    def test_a_stop_ends_nothing_but_the_work_it_was_meant_for(self):
+        self.open_many()
+        self.host.keys("ctrl+f")
+        self.host.await_title("Find")
+        self.host.type(ENDLESS)
+        self.host.keys("alt+x", "Return")
+        self.host.click_window(text="Stop (Esc)")
+        self.host.await_no_window(text="Stop (Esc)")
+        self.host.keys("Escape")
+        self.host.await_table("many.dbf")
+        self.host.set_clipboard("untouched")
+        self.host.keys("ctrl+c")
+        wait_for("the clipboard", lambda: self.host.clipboard() == "a" * 20)
+
+    def test_escape_in_another_program_stops_nothing(self):
+        self.open_many()
+        self.host.keys("ctrl+f")
+        self.host.await_title("Find")
+        self.host.type(ENDLESS)
+        self.host.keys("alt+x", "Return")
+        self.host.await_window(text="Stop (Esc)")
+        other = Host("notepad")
+        self.addCleanup(other.kill)
+        other.await_title("Untitled - Notepad")
+        other.xdotool("search", "--name", "Untitled - Notepad", "mousemove", "--window", "%1", "100", "100", "click", "1")
+        other.xdotool("keydown", "Escape", "sleep", "0.5", "keyup", "Escape")
+        self.assertIsNotNone(self.host.find(text="Stop (Esc)"))
 
     def test_a_mistake_is_named_as_it_is_typed(self):
         self.host.keys("F7")
@@ -150,12 +200,7 @@ class Filter(sessions.Session):
         self.await_record(1, 300)
 
     def test_escape_and_a_button_stop_a_search_that_would_take_long(self):
-        path = os.path.join(self.folder, "many.dbf")
-        sessions.write_table(path, [("LETTERS", 20)], ["a" * 20] * 50000)
-        self.host.keys("alt+F4")
-        self.host.await_end()
-        self.host = self.start(path)
-        self.host.await_table("many.dbf")
+        self.open_many()
         self.host.keys("ctrl+f")
         self.host.await_title("Find")
         self.host.type(ENDLESS)

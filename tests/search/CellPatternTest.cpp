@@ -2,6 +2,8 @@
 #include "search/PatternText.h"
 #include "search/RequiredText.h"
 
+#include "SeededRandom.h"
+
 #include <gtest/gtest.h>
 
 #include <boost/regex.hpp>
@@ -45,6 +47,12 @@ TEST(CellPattern, EndlessPatternsWithoutAnEndInTheTextAreToldBeforehand) {
     EXPECT_TRUE(pattern.Matches("aab"));
 }
 
+TEST(CellPattern, AGroupThatRepeatsNeedNotStandBeforeWhatFollowsOnce) {
+    EXPECT_TRUE(CellPattern("x(ab)+c", true).Matches("xababc"));
+    EXPECT_TRUE(CellPattern("x(a(b)+)+c", true).Matches("xabbabc"));
+    EXPECT_TRUE(CellPattern("x(?<_before>.*?)(ab)+?c", true).Matches("xababc"));
+}
+
 TEST(CellPattern, OnlyTheFirstMatchIsReplaced) {
     std::string replaced;
     EXPECT_TRUE(CellPattern("b", true).ReplaceFirst("abab", "x", &replaced));
@@ -61,8 +69,40 @@ TEST(RequiredText, TheLongestRunThatEveryMatchHolds) {
 }
 
 TEST(RequiredText, WhereTheMeaningIsNotPlainThereIsNone) {
-    for (const char *pattern : {"a|b", "(ab)?", "(ab)*c", "[ab]c", "(?i)abc", "a{0}bc", "\\x41bc", "(?=a)b", "\\Qab\\E", ""})
+    for (const char *pattern : {"a|b", "(ab)?", "(ab)*c", "x(ab)+c", "[ab]c", "(?i)abc", "a{0}bc", "\\x41bc", "(?=a)b", "\\Qab\\E", ""})
         EXPECT_EQ("", RequiredText(pattern)) << pattern;
+}
+
+std::string RandomGroups(SeededRandom *random, int depth) {
+    static const char *const letters[] = {"a", "b"};
+    static const char *const quantifiers[] = {"", "", "", "+", "+", "+?", "*"};
+    std::string sequence;
+    for (int i = random->Between(1, 3); i > 0; --i) {
+        const bool group = depth > 0 && random->OneIn(2);
+        sequence += group ? "(" + RandomGroups(random, depth - 1) + ")" : std::string(random->Of(letters));
+        sequence += random->Of(quantifiers);
+    }
+    return sequence;
+}
+
+TEST(RequiredText, WhatIsNeededStandsInEveryTextThatRandomGroupsFit) {
+    SeededRandom random(5);
+    int matches = 0;
+    for (int i = 0; i < 4000; ++i) {
+        const std::string pattern = RandomGroups(&random, 1);
+        const std::string needed = RequiredText(pattern);
+        const boost::regex plain(pattern);
+        for (int each = 0; !needed.empty() && each < 100; ++each) {
+            std::string text;
+            for (int length = random.Between(0, 7); length > 0; --length)
+                text += random.OneIn(2) ? 'a' : 'b';
+            if (!boost::regex_match(text, plain))
+                continue;
+            ++matches;
+            ASSERT_NE(std::string::npos, text.find(needed)) << pattern << " needs " << needed << " in " << text;
+        }
+    }
+    EXPECT_GT(matches, 200);
 }
 
 // What is told without the expression is what the expression says.

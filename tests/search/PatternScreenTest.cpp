@@ -90,6 +90,17 @@ TEST(PatternScreen, WhereTheMeaningIsNotKnownEveryTextMayMatch) {
 }
 
 // Where the places of "a" so far make too many states, the expression decides.
+// Each repetition of the outermost group would cost a day, if what is empty were repeated.
+TEST(PatternScreen, RepeatedNothingIsNothing) {
+    std::string nothing = "(?:)";
+    for (int i = 0; i < 6; ++i)
+        nothing = "(?:" + nothing + "{1000})";
+    PatternScreen screen("a" + nothing + "b", true);
+    EXPECT_TRUE(screen.Knows());
+    EXPECT_TRUE(screen.MayMatch("ab", 2));
+    EXPECT_FALSE(screen.MayMatch("b", 1));
+}
+
 TEST(PatternScreen, AFullTableLeavesTheAnswerToTheExpression) {
     const CellPattern pattern(Typed("a.{14}b"), true);
     SeededRandom random(1);

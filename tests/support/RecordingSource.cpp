@@ -93,6 +93,17 @@ int RecordingSource::DeleteRow(long row) {
     return result;
 }
 
+int RecordingSource::DeleteRows(long row, long count) {
+    if (row >= 0)
+        return CUGDataSource::DeleteRows(row, count);
+    const int result = Done("DeleteRows", std::to_string(row) + "," + std::to_string(count));
+    for (long record = GetNumRows(); result == GRID_SUCCESS && record > 0; --record) {
+        if (m_passes && m_passes(record))
+            m_rows.erase(m_rows.begin() + record - 1);
+    }
+    return result;
+}
+
 int RecordingSource::GetCell(int col, long row, CUGCell *cell) {
     ++m_reads;
     if (col >= 0)

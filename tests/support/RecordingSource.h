@@ -34,6 +34,8 @@ public:
     int AppendRow() override;
     int InsertRow(long row) override;
     int DeleteRow(long row) override;
+    // Row -1: the records that pass.
+    int DeleteRows(long row, long count) override;
     int GetCell(int col, long row, CUGCell *cell) override;
     int SetCell(int col, long row, CUGCell *cell) override;
     int FindFirst(int col, const char *text, long *row) override;

@@ -233,7 +233,10 @@ Result Table::saveTo(const std::string &path, const RowPredicate &keep, bool ove
     try {
         return replaceAndReopen(job);
     } catch (const std::bad_alloc &) {
-        ensureOpen();
+        const bool placed = !reopen_.empty();
+        if (Result open = ensureOpen(); placed && open) {
+            return open; // nothing was lost but the first try to open what is saved
+        }
         throw;
     }
 }

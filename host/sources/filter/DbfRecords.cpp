@@ -2,6 +2,7 @@
 
 #include "filter/Utf8.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace filter {
@@ -50,6 +51,7 @@ DbfRecords::DbfRecords(const dbf::Table &table)
 void DbfRecords::read(Row row, std::size_t field, Value &value) const {
     const dbf::FieldKind kind = m_table.field(field).kind;
     value.text = m_table.cellText(row, field);
+    value.text.resize(std::min(value.text.find('\0'), value.text.size()));
     value.kind = value.text.empty() && isNullWhenEmpty(kind) ? Value::Kind::none : Value::Kind::text;
     if (value.kind == Value::Kind::text && isNumber(kind)) {
         readNumber(value);

@@ -9,7 +9,7 @@
 namespace filter {
 namespace {
 
-constexpr int kLongestText = 1'000'000; // bytes that a value may grow to while it is reckoned with
+constexpr int kLongestText = 64'000'000; // bytes that a value may grow to while it is reckoned with: a memo, at most
 constexpr int kDeepest = 200;
 
 const char *const kLowMemory = "Low memory - cannot carry out operation!";
@@ -187,6 +187,7 @@ Expression::Outcome Expression::walk(Row first, Row last, const std::function<vo
     m_walk.goOn = &goOn;
     m_walk.stopped = false;
     sqlite3_stmt *statement = m_database->statement;
+    const std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_reset)> begun(statement, sqlite3_reset); // `passes` may throw
     int code = sqlite3_step(statement);
     for (; code == SQLITE_ROW; code = sqlite3_step(statement)) {
         passes(m_walk.row);
@@ -196,7 +197,6 @@ Expression::Outcome Expression::walk(Row first, Row last, const std::function<vo
         mistake = {code == SQLITE_NOMEM ? kLowMemory : sentence(sqlite3_errmsg(m_database->handle)),
                    Mistake::kNowhere};
     }
-    sqlite3_reset(statement);
     return code == SQLITE_DONE ? Outcome::done : m_walk.stopped ? Outcome::stopped : Outcome::failed;
 }
 

@@ -12,7 +12,7 @@ const char *const kTableName = "records";
 
 namespace {
 
-constexpr Row kRowsPerLook = 4096;
+constexpr Row kRowsPerLook = 256; // with a memo of 100 KB in each a look takes some hundredths of a second
 
 struct Table {
     sqlite3_vtab base; // SQLite's part, first
@@ -66,7 +66,7 @@ int connect(sqlite3 *database, void *client, int, const char *const *, sqlite3_v
         *made = &(new Table{{}, walk})->base;
         return SQLITE_OK;
     } catch (...) {
-        return SQLITE_NOMEM; // what an allocation throws depends on the framework
+        return SQLITE_NOMEM;
     }
 }
 
@@ -105,11 +105,12 @@ int next(sqlite3_vtab_cursor *cursor) noexcept {
     Walk &walk = *own(cursor).walk;
     ++walk.row;
     const Row done = walk.row - walk.first;
-    if (done % kRowsPerLook == 0 && walk.goOn && *walk.goOn && !(*walk.goOn)(done)) {
-        walk.stopped = true;
-        return SQLITE_INTERRUPT;
+    try {
+        walk.stopped = done % kRowsPerLook == 0 && walk.goOn && *walk.goOn && !(*walk.goOn)(done);
+    } catch (...) {
+        return SQLITE_NOMEM; // what an allocation throws depends on the framework
     }
-    return SQLITE_OK;
+    return walk.stopped ? SQLITE_INTERRUPT : SQLITE_OK;
 }
 
 int isAtEnd(sqlite3_vtab_cursor *cursor) noexcept {

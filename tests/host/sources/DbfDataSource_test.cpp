@@ -1,10 +1,12 @@
 // The table as the grid sees it, on real files.
+#include "AllocationFailure.h"
 #include "DbfBytes.h"
 #include "DbfDataSource.h"
 #include "filter/FilterList.h"
 #include "grid/UGDefine.h"
 
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -44,6 +46,14 @@ protected:
         return text;
     }
 
+    // The files of the folder for tests whose names begin like this.
+    static void removeAll(const std::string &beginning) {
+        for (const auto &entry : std::filesystem::directory_iterator(testing::TempDir())) {
+            if (entry.path().filename().string().starts_with(beginning)) {
+                std::filesystem::remove(entry.path());
+            }
+        }
+    }
     void write(const std::string &bytes) { std::ofstream(path, std::ios::binary) << bytes; }
     std::string read(const std::string &file) {
         std::ifstream in(file, std::ios::binary);
@@ -233,6 +243,22 @@ TEST_F(DbfDataSource, NotifiesWhenUndoChangesTheNumberOfRows) {
     EXPECT_FALSE(source.CanRedo());
 }
 
+TEST_F(DbfDataSource, NothingLeavesASearchThatRunsOutOfMemory) {
+    write(header(0x03, 3, 41, descriptor("LONG", 'C', 40)) + (" " + std::string(40, 'a')) + (" " + std::string(40, 'b')) +
+          (" " + std::string(40, 'c')));
+    ASSERT_EQ(source.Open(path.c_str(), ""), GRID_SUCCESS);
+    const std::string wanted(40, 'C');
+    for (int number = 1; number <= 3; ++number) {
+        long row = -1;
+        told.clear();
+        allocations::failAt(number);
+        EXPECT_NO_THROW(EXPECT_EQ(source.FindFirst(0, wanted.c_str(), &row), GRID_ERROR));
+        allocations::failAt(0);
+        EXPECT_EQ(told, "Low memory - cannot carry out operation!|");
+        EXPECT_EQ(source.FindFirst(0, wanted.c_str(), &row), GRID_SUCCESS);
+    }
+}
+
 TEST_F(DbfDataSource, FindsWholeTextsIgnoringCase) {
     ASSERT_EQ(source.Open(path.c_str(), ""), 0);
     source.InsertRows(3, 2);
@@ -271,6 +297,24 @@ TEST_F(DbfDataSource, SavesUnderAnotherName) {
     EXPECT_EQ(cell(0, 0), "Saved");
     source.Close(true);
     std::remove(copy.c_str());
+}
+
+TEST_F(DbfDataSource, ATableThatWasSavedUnderAnotherNameIsToldToBeWhenMemoryFailsThen) {
+    define(1, "PAY > 0");
+    const std::string copy = testing::TempDir() + "source-copy.dbf";
+    for (int number = 1;; ++number) {
+        ASSERT_EQ(source.Open(path.c_str(), ""), GRID_SUCCESS);
+        allocations::failAt(number);
+        const int code = source.SaveAs(copy.c_str(), "");
+        const bool failed = allocations::hasFailed();
+        allocations::failAt(0);
+        ASSERT_EQ(code == GRID_SUCCESS, source.GetTable()->path() == copy) << number;
+        source.Close(true);
+        removeAll("source-copy.");
+        if (!failed) {
+            return;
+        }
+    }
 }
 
 TEST_F(DbfDataSource, DoesNotOverwriteForeignChange) {
@@ -354,6 +398,18 @@ TEST_F(DbfDataSource, OpensWithAFilterOrNotAtAll) {
     define(3, "ACTIVE = 'F'");
     ASSERT_EQ(source.Open(path.c_str(), "-table t -filter 3"), 0);
     EXPECT_EQ(passing(), "-+-");
+}
+
+TEST_F(DbfDataSource, ATableForViewingIsFilteredAndNothingInItDeleted) {
+    define(3, "ACTIVE = 'F'");
+    ASSERT_EQ(source.Open(path.c_str(), " -filter 3-view "), 0) << "as an editor joins them";
+    EXPECT_EQ(passing(), "-+-");
+    EXPECT_NE(source.DeleteRows(-1, -1), 0);
+    EXPECT_EQ(told, "\"" + path + "\" was opened for viewing only|");
+    EXPECT_EQ(source.GetNumRows(), 3);
+    define(3, "ACTIVE = 'T'");
+    EXPECT_EQ(source.SetOption(UGSRC_ATTACH_FILTER, 3, 0), 0);
+    EXPECT_EQ(passing(), "+--");
 }
 
 TEST_F(DbfDataSource, DeletesTheFilteredRecordsAsOneStep) {

@@ -105,6 +105,23 @@ TEST(FilterExpression, OneRecordIsLookedAtAndNothingElse) {
     EXPECT_NE(mistakeIn("1;"), "none");
 }
 
+TEST(FilterExpression, TheTableItselfIsNoSetOfValues) {
+    MemoryFiles files;
+    const auto table = openBytes(files, header(0x03, 2, 2, descriptor("A", 'C', 1)) + " a b");
+    EXPECT_EQ(passing(*table, "A in records").substr(0, 36), "A filter looks at one record at a ti");
+    EXPECT_EQ(passing(*table, "A in ('b', 'c')"), "1 ");
+}
+
+TEST(FilterExpression, AMemoMayBeLong) {
+    MemoryFiles files;
+    std::string memo(512, '\0');
+    memo[6] = 0x02; // blocks of 512 bytes
+    memo[7] = 0x00;
+    files.files["t.fpt"] = memo + raw("\0\0\0\x01\0\x1E\x84\x80") + std::string(1'999'999, 'a') + "b";
+    const auto table = openBytes(files, header(0xF5, 1, 11, descriptor("NOTE", 'M', 10)) + "          1");
+    EXPECT_EQ(passing(*table, "NOTE like 'a%b' and length(NOTE) = 2000000"), "0 ");
+}
+
 TEST(FilterExpression, AFieldMayBeCalledLikeARecordsPlaceOrLikeAKeyword) {
     MemoryFiles files;
     const auto table =
@@ -153,6 +170,45 @@ TEST(FilterExpression, AWalkCanBeStopped) {
     EXPECT_EQ(mistake.text, "");
     EXPECT_EQ(walk([](filter::Row) { return true; }), Expression::Outcome::done);
     EXPECT_EQ(passed, 10000u);
+}
+
+TEST(FilterExpression, WhatAWalksCallerThrowsDoesNotGoThroughSqlite) {
+    MemoryFiles files;
+    const auto table = openBytes(files, header(0x03, 10000, 2, descriptor("A", 'C', 1)) + std::string(20000, ' '));
+    const filter::DbfRecords records(*table);
+    Mistake mistake;
+    const auto expression = Expression::compile("1", records, mistake);
+    ASSERT_TRUE(expression);
+    const auto fails = [](filter::Row) -> bool { throw std::bad_alloc(); };
+    EXPECT_EQ(expression->walk(0, 10000, [](filter::Row) {}, fails, mistake), Expression::Outcome::failed);
+    EXPECT_EQ(mistake.text, "Low memory - cannot carry out operation!");
+    EXPECT_THROW(expression->walk(0, 10000, [](filter::Row row) { if (row == 5) throw std::bad_alloc(); }, {}, mistake),
+                 std::bad_alloc);
+    filter::Row passed = 0;
+    EXPECT_EQ(expression->walk(2, 4, [&](filter::Row) { ++passed; }, {}, mistake), Expression::Outcome::done);
+    EXPECT_EQ(passed, 2u) << "the walk that was left does not go on";
+}
+
+TEST(FilterExpression, ATextEndsWhereTheGridEndsIt) {
+    MemoryFiles files;
+    const auto table = openBytes(files, header(0x03, 1, 6, descriptor("A", 'C', 5)) + raw(" ab\0cd"));
+    EXPECT_EQ(passing(*table, "A = 'ab' and length(A) = 2 and A || 'x' = 'abx'"), "0 ");
+}
+
+TEST(FilterExpression, ATableMayHaveAsManyFieldsAsItsHeaderHolds) {
+    MemoryFiles files;
+    std::string fields;
+    for (int i = 1; i <= 2046; ++i) {
+        fields += descriptor("F" + std::to_string(i), 'C', 1);
+    }
+    const auto table = openBytes(files, header(0x03, 1, 2047, fields) + " " + std::string(2045, 'a') + "b");
+    ASSERT_TRUE(table);
+    EXPECT_EQ(passing(*table, "F1 = 'a' and F2046 = 'b'"), "0 ");
+}
+
+TEST(FilterExpression, ATableWithoutRecordsHasNoneThatPass) {
+    MemoryFiles files;
+    EXPECT_EQ(passing(*openBytes(files, header(0x03, 0, 2, descriptor("A", 'C', 1))), "A = ''"), "");
 }
 
 TEST(FilterText, GoesToUtf8AndBack) {

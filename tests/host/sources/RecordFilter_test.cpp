@@ -97,6 +97,16 @@ TEST(RecordFilter, ChangesOfAnyKindAgreeWithAFreshFilter) {
     }
 }
 
+TEST(RecordFilter, FollowsATableThatBeginsWithoutRecords) {
+    MemoryFiles files;
+    const auto table = openBytes(files, header(0x03, 0, 4, descriptor("A", 'N', 3)));
+    const auto filter = attach(*table, "A > 0");
+    EXPECT_EQ(passing(*filter, *table), "");
+    ASSERT_TRUE(table->insertRows(0, 2));
+    ASSERT_TRUE(table->setCellText(1, 0, "7"));
+    EXPECT_EQ(passing(*filter, *table), "-+");
+}
+
 TEST(RecordFilter, ARecordThatCannotBeEvaluatedIsUnknown) {
     MemoryFiles files;
     const auto wide = openBytes(files, header(0x03, 2, 11, descriptor("N", 'N', 10)) + "          1" + "          2");
@@ -134,11 +144,11 @@ TEST(RecordFilter, AttachingIsAllOrNothingWhenMemoryFails) {
 
 TEST(RecordFilter, TellsOfProgressAndStops) {
     MemoryFiles files;
-    const auto table = openBytes(files, header(0x03, 9000, 2, descriptor("A", 'C', 1)) + std::string(18000, ' '));
+    const auto table = openBytes(files, header(0x03, 600, 2, descriptor("A", 'C', 1)) + std::string(1200, ' '));
     std::string message;
     std::string seen;
     EXPECT_TRUE(RecordFilter::attach(*table, "1", [&](filter::Row done) { seen += std::to_string(done) + " "; return true; }, message));
-    EXPECT_EQ(seen, "4096 8192 ");
+    EXPECT_EQ(seen, "256 512 ");
     EXPECT_FALSE(RecordFilter::attach(*table, "1", [](filter::Row) { return false; }, message));
     EXPECT_EQ(message, "");
 }
