@@ -55,11 +55,13 @@ bool CFilterListDlg::EditOne(const dbf::Table &table, int number, CWnd *parent) 
         return false;
     const filter::Definition *known = list.find(number);
     filter::Definition edited = known != nullptr ? *known : filter::Definition{number, {}, {}};
-    if (CFilterDlg(table, edited, parent).DoModal() != IDOK)
-        return false;
-    list.put(edited);
-    list.put({0, {}, edited.expression});
-    return StoreList(table, list);
+    while (CFilterDlg(table, edited, parent).DoModal() == IDOK) {
+        list.put(edited);
+        list.put({0, {}, edited.expression});
+        if (StoreList(table, list))
+            return true;
+    }
+    return false;
 }
 
 CListCtrl &CFilterListDlg::List() const {
@@ -129,12 +131,15 @@ void CFilterListDlg::OnListKey(NMHDR *notification, LRESULT *result) {
 }
 
 void CFilterListDlg::EditDefinition(filter::Definition definition) {
-    if (CFilterDlg(m_table, definition, this).DoModal() != IDOK)
-        return;
-    filter::FilterList changed = m_filters;
-    changed.put(definition);
-    if (StoreList(m_table, changed))
+    while (CFilterDlg(m_table, definition, this).DoModal() == IDOK) {
+        filter::FilterList changed = m_filters;
+        changed.put(definition);
+        if (!StoreList(m_table, changed))
+            continue; // what was typed is shown again
         m_filters = std::move(changed);
+        m_attachedChanged = m_attachedChanged || definition.number == m_chosen;
+        break;
+    }
     Fill(definition.number);
 }
 
@@ -161,6 +166,11 @@ void CFilterListDlg::OnDelete() {
     if (StoreList(m_table, changed))
         m_filters = std::move(changed);
     Fill(-1);
+}
+
+// The attached filter is attached anew when it was changed: the records are to be those that the list tells of.
+void CFilterListDlg::OnCancel() {
+    EndDialog(m_attachedChanged && m_filters.find(m_chosen) != nullptr ? IDOK : IDCANCEL);
 }
 
 void CFilterListDlg::OnOK() {

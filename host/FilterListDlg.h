@@ -26,6 +26,7 @@ public:
 protected:
     BOOL OnInitDialog() override;
     void OnOK() override;
+    void OnCancel() override;
     DECLARE_MESSAGE_MAP()
     afx_msg void OnNew();
     afx_msg void OnEdit();
@@ -44,5 +45,6 @@ private:
 
     const dbf::Table &m_table;
     filter::FilterList m_filters;
-    int m_chosen;
+    int m_chosen; // the attached one until another is
+    bool m_attachedChanged = false;
 };

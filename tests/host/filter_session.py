@@ -162,6 +162,40 @@ class Filter(sessions.Session):
         self.host.keys("ctrl+Home", "Down")
         self.await_record(1)
 
+    def test_changing_the_attached_filter_in_the_list_attaches_it_anew(self):
+        self.attach("ID = 5")
+        self.host.keys("alt+t", "u", "Down")
+        self.await_record(5)
+        self.host.keys("F7")
+        self.host.await_title("Filters")
+        self.host.keys("alt+e")
+        self.host.await_title("Filter 1")
+        self.host.keys("ctrl+a")
+        self.host.type("ID = 9")
+        self.host.keys("Return")
+        self.host.await_no_window(id=EXPRESSION)
+        self.host.keys("Escape")
+        self.host.await_no_window(id=LIST)
+        self.host.keys("Down")
+        self.await_record(9)
+
+    def test_what_was_typed_is_shown_again_when_it_cannot_be_stored(self):
+        self.host.keys("F7")
+        self.host.await_title("Filters")
+        os.mkdir(os.path.join(self.folder, "staff.@filters"))  # no list can take its place
+        self.host.keys("alt+n")
+        self.host.await_title("Filter 1")
+        self.host.type("ID = 7")
+        self.host.keys("Return")
+        self.host.await_message()
+        self.host.keys("Return")
+        self.host.await_no_message()
+        self.host.await_window(id=EXPRESSION, text="ID = 7")
+        os.rmdir(os.path.join(self.folder, "staff.@filters"))
+        self.host.keys("Return")
+        self.host.await_no_window(id=EXPRESSION)
+        self.assertTrue(os.path.isfile(os.path.join(self.folder, "staff.@filters")))
+
     def test_editing_hands_the_result_over_as_the_default_filter(self):
         self.attach("LASTNAME like 'E%'")
         self.host.keys("ctrl+F7")
