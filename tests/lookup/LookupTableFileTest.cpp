@@ -412,6 +412,20 @@ TEST_F(LookupTableFileTest, CountsThatTheFileCannotHoldAreDamage) {
     EXPECT_EQ(Load(menu + Bytes("01 00 00 00 00 FF FF FF 7F")), kBad);
 }
 
+TEST_F(LookupTableFileTest, ANodeHasAChildForEachCharacterAtMost) {
+    const auto bytes = [](int children) {
+        std::string trie = Bytes("01 00 00 00 00") + Long(children);
+        for (int i = 0; i < children; ++i)
+            trie += std::string{3, static_cast<char>(i), 0} + std::string(6, '\0');
+        return ExampleFront() + Bytes("02 00 00 00 00 00 00 00") + std::string(22, '\0') + trie;
+    };
+    EXPECT_EQ(Load(bytes(256)), "");
+    EXPECT_EQ(m_table.m_LookupTree.GetChildCount(), 256u);
+    EXPECT_TRUE(m_table.IsValidCode("\x01"));
+    EXPECT_TRUE(m_table.IsValidCode("\xFF"));
+    EXPECT_EQ(Load(bytes(257)), kBad);
+}
+
 // Nesting is as deep as the file is long: nothing here may stand on the stack.
 TEST_F(LookupTableFileTest, DeepNestingIsReadAndWritten) {
     constexpr int kDeep = 200000;
