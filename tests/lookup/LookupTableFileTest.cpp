@@ -217,6 +217,15 @@ TEST_F(LookupTableFileTest, AMissingFileIsNotCreated) {
     EXPECT_FALSE(TempFiles::Exists(path));
 }
 
+TEST_F(LookupTableFileTest, AFileThatCannotBeOpenedLeavesTheTableAsItWas) {
+    BuildPlain();
+    EXPECT_NE(LoadPath(m_files.Path("none.lbn")), "");
+    EXPECT_NE(LoadPath(m_files.Path("")), "");
+    EXPECT_NE(Load(""), "");
+    EXPECT_EQ(Outline(m_table.m_MenuTree), "A(1 2)");
+    EXPECT_TRUE(m_table.IsValidCode("A1"));
+}
+
 TEST_F(LookupTableFileTest, AFolderCannotBeOpened) {
     const std::string path = m_files.Path("");
     CString text;
