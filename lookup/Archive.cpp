@@ -166,14 +166,23 @@ unsigned CArchive::ReadCount() {
     return static_cast<unsigned>(large);
 }
 
-void CArchive::WriteText(LPCSTR text, unsigned length) {
+void AfxWriteStringLength(CArchive &ar, ULONGLONG length, BOOL wide) {
+    if (wide)
+        ar << kLongString << kWideMark;
     if (length < kLongString) {
-        *this << static_cast<BYTE>(length);
+        ar << static_cast<BYTE>(length);
     } else if (length < kWideMark) {
-        *this << kLongString << static_cast<WORD>(length);
+        ar << kLongString << static_cast<WORD>(length);
+    } else if (length < kLongestString) {
+        ar << kLongString << kLongerString << static_cast<int>(length);
     } else {
-        *this << kLongString << kLongerString << static_cast<int>(length);
+        ar << kLongString << kLongerString << static_cast<int>(kLongestString);
+        ar << static_cast<int>(length) << static_cast<int>(length >> 32);
     }
+}
+
+void CArchive::WriteText(LPCSTR text, unsigned length) {
+    AfxWriteStringLength(*this, length, FALSE);
     Write(text, length);
 }
 
@@ -182,35 +191,36 @@ CArchive &CArchive::operator<<(const CString &text) {
     return *this;
 }
 
-unsigned long long CArchive::ReadStringLength(bool *wide) {
-    BYTE shortLength;
-    *this >> shortLength;
-    if (shortLength != kLongString)
-        return shortLength;
-    WORD wordLength;
-    *this >> wordLength;
-    if (wordLength == kWideMark && !*wide) {
-        *wide = true;
-        return ReadStringLength(wide);
+ULONGLONG AfxReadStringLength(CArchive &ar, int &bytesEach) {
+    bytesEach = 1;
+    for (;;) {
+        BYTE shortLength;
+        ar >> shortLength;
+        if (shortLength != kLongString)
+            return shortLength;
+        WORD wordLength;
+        ar >> wordLength;
+        if (wordLength == kLongerString)
+            break;
+        if (wordLength != kWideMark || bytesEach == 2)
+            return wordLength;
+        bytesEach = 2; // the length starts over
     }
-    if (wordLength != kLongerString)
-        return wordLength;
-    int longLength;
-    *this >> longLength;
-    if (static_cast<unsigned>(longLength) != kLongestString)
-        return static_cast<unsigned>(longLength);
-    BYTE bytes[8];
-    ReadExactly(bytes, 8);
-    return GetLittleEndian(bytes, 8);
+    int low, high;
+    ar >> low;
+    if (static_cast<unsigned>(low) != kLongestString)
+        return static_cast<unsigned>(low);
+    ar >> low >> high;
+    return static_cast<ULONGLONG>(static_cast<unsigned>(high)) << 32 | static_cast<unsigned>(low);
 }
 
 LPCSTR CArchive::ReadText(unsigned *length) {
-    bool wide = false;
-    const unsigned long long characters = ReadStringLength(&wide);
-    const unsigned width = wide ? 2 : 1;
-    if (characters > BytesLeft() / width || characters > 0x3FFFFFFF)
+    int width;
+    const ULONGLONG characters = AfxReadStringLength(*this, width);
+    const bool wide = width == 2;
+    if (characters > BytesLeft() / static_cast<unsigned>(width) || characters > 0x3FFFFFFF)
         AfxThrowArchiveException(CArchiveException::endOfFile, m_fileName);
-    const size_t bytes = static_cast<size_t>(characters) * width;
+    const size_t bytes = static_cast<size_t>(characters) * static_cast<unsigned>(width);
     *length = static_cast<unsigned>(characters);
     if (!wide && bytes <= m_have - m_used) {
         m_used += bytes;

@@ -48,6 +48,8 @@ public:
     // ends them.
     LPCSTR ReadText(unsigned *length);
 
+    // Reads on from the file; false at its end.
+    bool FillBuffer();
     // A word, or 0xFFFF and four bytes.
     void WriteCount(unsigned count);
     unsigned ReadCount();
@@ -59,9 +61,7 @@ public:
 
 private:
     void ReadExactly(void *buffer, UINT bytes);
-    bool FillBuffer();
     ULONGLONG BytesBehindBuffer();
-    unsigned long long ReadStringLength(bool *wide);
 
     CFile *m_file;
     UINT m_mode;
@@ -72,3 +72,9 @@ private:
     LONGLONG m_behind = -1;     // loading: bytes of the file behind the buffer; -1 while not asked for
     std::vector<BYTE> m_text;   // a string that the buffer holds no more than a part of
 };
+
+// What stands in front of a string's characters: their number in 1, 3, 7 or 15 bytes, with a mark of 3 before it when
+// they are of two bytes each.
+ORVANE_API void AfxWriteStringLength(CArchive &ar, ULONGLONG length, BOOL wide);
+// `bytesEach` becomes 1 or 2.
+ORVANE_API ULONGLONG AfxReadStringLength(CArchive &ar, int &bytesEach);

@@ -13,7 +13,6 @@
 namespace {
 
 constexpr unsigned kSearchedInNodes = 4; // children; above, their characters stand side by side as well
-constexpr unsigned kMostChildren = 0x7FFFFFFF;
 
 size_t RoundUp(size_t bytes) {
     return (bytes + 7) & ~static_cast<size_t>(7);
@@ -30,7 +29,7 @@ void AskForMemory(const char *body, size_t bytes) {
 
 } // namespace
 
-static_assert(sizeof(CLookupNode) == 16 || sizeof(void *) != 8);
+static_assert(sizeof(CLookupNode) == 8);
 static_assert(std::is_trivially_copyable_v<CLookupNode> && std::is_trivially_destructible_v<CLookupNode>);
 
 // Grows by about a quarter, so that a node that gets its children one by one is not moved for each.
@@ -54,15 +53,16 @@ CLookupNode::Shape CLookupNode::ShapeFor(bool hasList, unsigned children) {
 // The child of that rank, or the one in front of which it would have to stand. There are children. The halving makes
 // no jump that depends on the characters: which way it goes cannot be foreseen.
 unsigned CLookupNode::FindPosition(unsigned char wanted, const unsigned char *ranks, const Shape &shape) const {
-    const auto *characters = reinterpret_cast<const unsigned char *>(m_pBody + shape.characters);
-    const auto *nodes = reinterpret_cast<const CLookupNode *>(m_pBody + shape.nodes);
+    const auto *characters = reinterpret_cast<const unsigned char *>(Body() + shape.characters);
+    const auto *nodes = reinterpret_cast<const CLookupNode *>(Body() + shape.nodes);
+    const unsigned children = GetChildCount();
     unsigned first = 0;
-    if (m_nChildren <= kSearchedInNodes) {
-        while (first < m_nChildren && ranks[static_cast<unsigned char>(nodes[first].m_cChar)] < wanted)
+    if (children <= kSearchedInNodes) {
+        while (first < children && ranks[static_cast<unsigned char>(nodes[first].m_cChar)] < wanted)
             ++first;
         return first;
     }
-    for (unsigned left = m_nChildren; left > 1;) {
+    for (unsigned left = children; left > 1;) {
         const unsigned half = left / 2;
         first += ranks[characters[first + half - 1]] < wanted ? half : 0;
         left -= half;
@@ -71,17 +71,26 @@ unsigned CLookupNode::FindPosition(unsigned char wanted, const unsigned char *ra
 }
 
 const CLookupNode *CLookupNode::FindChild(char character, const unsigned char *ranks, bool exact) const {
-    if (m_nChildren == 0)
-        return nullptr;
-    const Shape shape = Now();
-    AskForMemory(m_pBody, shape.end);
-    const auto *nodes = reinterpret_cast<const CLookupNode *>(m_pBody + shape.nodes);
-    if (exact && m_nChildren > kSearchedInNodes)
-        return FindByte(character, m_pBody + shape.characters, nodes);
     const unsigned char wanted = ranks[static_cast<unsigned char>(character)];
+    const unsigned children = GetChildCount();
+    if (children == 0)
+        return nullptr;
+    if (children <= kSearchedInNodes) {
+        // Most nodes: they have one child.
+        AskForMemory(Body(), kLineBytes);
+        const CLookupNode *nodes = Nodes(), *end = nodes + children;
+        while (nodes != end && ranks[static_cast<unsigned char>(nodes->m_cChar)] != wanted)
+            ++nodes;
+        return nodes != end ? nodes : nullptr;
+    }
+    const Shape shape = Now();
+    const char *body = Body();
+    AskForMemory(body, shape.end);
+    const auto *nodes = reinterpret_cast<const CLookupNode *>(body + shape.nodes);
+    if (exact)
+        return FindByte(character, body + shape.characters, nodes);
     const unsigned position = FindPosition(wanted, ranks, shape);
-    const bool found =
-        position < m_nChildren && ranks[static_cast<unsigned char>(nodes[position].m_cChar)] == wanted;
+    const bool found = position < children && ranks[static_cast<unsigned char>(nodes[position].m_cChar)] == wanted;
     return found ? nodes + position : nullptr;
 }
 
@@ -106,22 +115,33 @@ const CLookupNode *CLookupNode::FindPath(const char *text, int length, bool bCas
     return node;
 }
 
+// No address is lost in the bits that a node has for it.
+ULONGLONG CLookupNode::Packed(const char *body) {
+    const ULONGLONG packed = reinterpret_cast<std::uintptr_t>(body) >> kBodyShift;
+    if (packed >> kBodyBits != 0)
+        AfxThrowMemoryException();
+    return packed;
+}
+
 // Changes the number of children and the place for a list. New children are blank: in front of the child `gap` when
 // there is one more, and all of them when there were none.
 void CLookupNode::Reshape(CTreePool &pool, bool hasList, unsigned children, unsigned gap) {
     if (children > kMostChildren)
         AfxThrowMemoryException();
     const Shape before = Now(), after = ShapeFor(hasList, children);
-    const unsigned old = m_nChildren, behind = old - gap, added = children - old;
-    char *body = m_pBody;
-    const bool moves = hasList != m_bHasList || before.end != after.end;
+    const unsigned old = GetChildCount(), behind = old - gap, added = children - old;
+    char *const oldBody = Body();
+    char *body = oldBody;
+    const bool moves = hasList != (m_bHasList != 0) || before.end != after.end;
     if (moves) {
         body = static_cast<char *>(pool.Allocate(after.end));
+        const ULONGLONG packed = Packed(body);
         if (hasList)
-            *reinterpret_cast<const char **>(body) = m_bHasList ? *reinterpret_cast<const char **>(m_pBody) : nullptr;
+            *reinterpret_cast<const char **>(body) = m_bHasList ? CodeListPlace() : nullptr;
+        m_nBody = packed;
     }
     auto *nodes = reinterpret_cast<CLookupNode *>(body + after.nodes);
-    const auto *oldNodes = reinterpret_cast<const CLookupNode *>(m_pBody + before.nodes);
+    const auto *oldNodes = reinterpret_cast<const CLookupNode *>(oldBody + before.nodes);
     if (old > 0) {
         std::memmove(static_cast<void *>(nodes + gap + added), oldNodes + gap, behind * sizeof(CLookupNode));
         if (moves)
@@ -129,9 +149,8 @@ void CLookupNode::Reshape(CTreePool &pool, bool hasList, unsigned children, unsi
     }
     for (unsigned i = gap; i < gap + added; ++i)
         new (nodes + i) CLookupNode;
-    if (moves && m_pBody != nullptr)
-        pool.Release(m_pBody, before.end);
-    m_pBody = body;
+    if (moves)
+        pool.Release(oldBody, before.end);
     m_nChildren = children;
     m_bHasList = hasList;
     if (children > kSearchedInNodes) {
@@ -146,14 +165,14 @@ CLookupNode *CLookupNode::AddChild(CTreePool &pool, char character, const unsign
     const bool found =
         position < m_nChildren && ranks[static_cast<unsigned char>(Nodes()[position].m_cChar)] == wanted;
     if (!found) {
-        Reshape(pool, m_bHasList, m_nChildren + 1, position);
+        Reshape(pool, m_bHasList != 0, GetChildCount() + 1, position);
         SetChildCharacter(position, character);
     }
     return Nodes() + position;
 }
 
 void CLookupNode::MakeChildren(CTreePool &pool, unsigned count) {
-    Reshape(pool, m_bHasList, count, 0);
+    Reshape(pool, m_bHasList != 0, count, 0);
 }
 
 void CLookupNode::SetChildCharacter(unsigned index, char character) {
@@ -163,14 +182,14 @@ void CLookupNode::SetChildCharacter(unsigned index, char character) {
 }
 
 CPoolCodes CLookupNode::GetCodeList() const {
-    return m_bHasList ? CPoolCodes(*reinterpret_cast<const char **>(m_pBody)) : CPoolCodes();
+    return m_bHasList ? CPoolCodes(CodeListPlace()) : CPoolCodes();
 }
 
 void CLookupNode::SetCodeList(CTreePool &pool, CPoolCodes codes) {
     if (!m_bHasList && codes.GetPacked() != nullptr)
-        Reshape(pool, true, m_nChildren, m_nChildren);
+        Reshape(pool, true, GetChildCount(), GetChildCount());
     if (m_bHasList)
-        *reinterpret_cast<const char **>(m_pBody) = codes.GetPacked();
+        CodeListPlace() = codes.GetPacked();
 }
 
 void CLookupNode::Forget() {

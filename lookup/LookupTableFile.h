@@ -20,7 +20,8 @@ public:
     static void SetAppInterface(CVAppInterface *pAppInterface) { ms_pAppInterface = pAppInterface; }
 
     // Reads or writes the file; false with a text on failure. The file is opened for writing in both directions,
-    // and for this table alone. A file that was longer keeps its tail. A failed load leaves the table empty.
+    // and for this table alone. A file that was longer keeps its tail. A load leaves the table as it was when it fails
+    // before the first field, and without codes when it fails later.
     bool SerializeFile(LPCSTR path, CString &errorText, bool bStoring);
     // Asks the user to reload a file that is younger than what was last seen of it. False only when reloading was
     // tried and failed, of which the user has been told.
@@ -29,7 +30,8 @@ public:
     // Both throw CMemoryException; null is as the empty code, which is valid.
     bool IsValidCode(LPCSTR code);
     bool IsValidPartialCode(LPCSTR code);
-    // Where a pick list for the code opens: the node of its level codes, else the root.
+    // Where a pick list for the code opens: the node of its level codes, else the root. Nodes go when the table is
+    // loaded again; only the root stays.
     CMenuTree *GetMenuForCode(LPCSTR code);
 
     CMenuTree m_MenuTree;

@@ -32,6 +32,7 @@ CLookupTableFileCompiler::~CLookupTableFileCompiler() {
 
 void CLookupTableFileCompiler::AttachDataSource(CUGDataSource *pDataSource) {
     m_pDataSource = pDataSource;
+    m_sSourcePath.Empty();
     m_bAttached = true;
     CString *path = &m_sSourcePath;
     int none = 0;

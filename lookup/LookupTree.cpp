@@ -17,6 +17,7 @@ void CLookupTree::Clear() {
     ForgetSearch();
     Forget();
     m_Pool.Clear();
+    m_TextPool.Clear();
 }
 
 void CLookupTree::ForgetSearch() {
@@ -61,7 +62,7 @@ bool CLookupTree::EndLevel(CLookupNode *node, bool bCaseSensitive, const CString
     if (node->m_bSinglePath) {
         const CPoolCodes codes = node->GetCodeList();
         if (codes.GetCount() == 0) {
-            node->SetCodeList(m_Pool, CPoolCodes(m_Pool, levelCodes, level + 1));
+            node->SetCodeList(m_Pool, CPoolCodes(m_TextPool, levelCodes, level + 1));
         } else if (!codes.AreFirstOf(levelCodes, level + 1, bCaseSensitive)) {
             node->SetCodeList(m_Pool, CPoolCodes());
             node->m_bSinglePath = false;

@@ -25,8 +25,9 @@ public:
     bool GetCodeList(LPCSTR code, bool bCaseSensitive, CStringArray &codes) const;
 
     void Clear();
-    size_t GetHeldBytes() const { return m_Pool.GetHeldBytes(); }
+    size_t GetHeldBytes() const { return m_Pool.GetHeldBytes() + m_TextPool.GetHeldBytes(); }
     CTreePool &GetPool() { return m_Pool; }
+    CTreePool &GetTextPool() { return m_TextPool; } // of the level codes
 
     // The last successful search.
     const CLookupNode *m_pLastNode = nullptr;
@@ -43,4 +44,6 @@ private:
     void ForgetSearch();
 
     CTreePool m_Pool;
+    // Apart from the nodes: a search wants many of these in few lines of the processor's cache.
+    CTreePool m_TextPool;
 };

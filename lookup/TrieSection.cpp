@@ -64,6 +64,8 @@ private:
         node.m_bEndOfCode = (m_flags & kEndOfCode) != 0;
         ReadCodes(node);
         const int children = m_claims.ReadCount();
+        if (children > static_cast<int>(CLookupNode::kMostChildren))
+            AfxThrowArchiveException(CArchiveException::badIndex, m_ar.GetFile()->GetFilePath());
         if (children > 0) {
             node.MakeChildren(m_tree.GetPool(), static_cast<unsigned>(children));
             m_steps.push_back({&node, 0});
@@ -84,7 +86,7 @@ private:
             Pack(length);
             m_packed.append(text, length).push_back('\0');
         }
-        char *memory = m_tree.GetPool().AllocateText(m_packed.size());
+        char *memory = m_tree.GetTextPool().AllocateText(m_packed.size());
         std::memcpy(memory, m_packed.data(), m_packed.size());
         node.SetCodeList(m_tree.GetPool(), CPoolCodes(memory));
     }

@@ -49,6 +49,45 @@ TEST(ArchiveTest, NumbersAreLittleEndian) {
     EXPECT_EQ("ff ff ff ff", Hex(Written([](CArchive &ar) { ar << -1; })));
 }
 
+// What stands in front of that many characters, which reads back as the same.
+std::string LengthOf(ULONGLONG length, BOOL wide = FALSE) {
+    const std::string bytes = Written([&](CArchive &ar) { AfxWriteStringLength(ar, length, wide); });
+    MemoryFile file(bytes);
+    CArchive archive(&file, CArchive::load);
+    int bytesEach = 0;
+    EXPECT_EQ(length, AfxReadStringLength(archive, bytesEach));
+    EXPECT_EQ(wide ? 2 : 1, bytesEach);
+    EXPECT_EQ(0u, archive.BytesLeft());
+    return Hex(bytes);
+}
+
+TEST(ArchiveTest, AStringsLengthHasOneThreeSevenOrFifteenBytes) {
+    EXPECT_EQ("00", LengthOf(0));
+    EXPECT_EQ("fe", LengthOf(0xFE));
+    EXPECT_EQ("ff ff 00", LengthOf(0xFF));
+    EXPECT_EQ("ff fd ff", LengthOf(0xFFFD));
+    EXPECT_EQ("ff ff ff fe ff 00 00", LengthOf(0xFFFE));
+    EXPECT_EQ("ff ff ff fe ff ff ff", LengthOf(0xFFFFFFFE));
+    EXPECT_EQ("ff ff ff ff ff ff ff ff ff ff ff 00 00 00 00", LengthOf(0xFFFFFFFF));
+    EXPECT_EQ("ff ff ff ff ff ff ff 04 03 02 01 08 07 06 05", LengthOf(0x0506070801020304));
+}
+
+TEST(ArchiveTest, AWideStringsLengthStartsOverBehindItsMark) {
+    EXPECT_EQ("ff fe ff 03", LengthOf(3, TRUE));
+    EXPECT_EQ("ff fe ff ff ff 00", LengthOf(0xFF, TRUE));
+    EXPECT_EQ("ff fe ff ff ff ff fe ff 00 00", LengthOf(0xFFFE, TRUE));
+}
+
+TEST(ArchiveTest, FillBufferReadsOnAndTellsTheEnd) {
+    MemoryFile file(Bytes("01 02"));
+    CArchive archive(&file, CArchive::load);
+    EXPECT_TRUE(archive.FillBuffer());
+    BYTE first = 0;
+    archive >> first;
+    EXPECT_EQ(1, first);
+    EXPECT_FALSE(archive.FillBuffer());
+}
+
 TEST(ArchiveTest, ACountIsAWordOrSixBytes) {
     EXPECT_EQ("fe ff", Hex(Written([](CArchive &ar) { ar.WriteCount(0xFFFE); })));
     EXPECT_EQ("ff ff ff ff 00 00", Hex(Written([](CArchive &ar) { ar.WriteCount(0xFFFF); })));

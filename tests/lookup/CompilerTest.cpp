@@ -21,6 +21,15 @@ TEST_F(CompilerTest, AttachAsksForThePathAndDetachForgetsIt) {
     EXPECT_EQ(Compile(), "(-1,-1) No data source attached!");
 }
 
+// Else its table would be written over that of the source before.
+TEST_F(CompilerTest, ASourceThatTellsNoPathDoesNotGetTheLastOnes) {
+    Open(2, {{"A", "a"}});
+    CUGDataSource other;
+    m_compiler.AttachDataSource(&other);
+    EXPECT_STREQ(m_compiler.m_sSourcePath, "");
+    m_compiler.DetachDataSource();
+}
+
 TEST_F(CompilerTest, AFileWithoutFieldsOrRecords) {
     EXPECT_EQ(Compile(0, {{}}), "(-1,-1) File has no data!");
     EXPECT_EQ(Compile(2, {}), "(-1,-1) File has no data!");
@@ -50,6 +59,8 @@ TEST_F(CompilerTest, TheTableStandsBesideTheSource) {
     EXPECT_EQ(nameOf("\\codes.dat"), "\\codes.lbn"); // the separator is the first character
     EXPECT_EQ(nameOf("C:\\data\\codes"), "codes.lbn");
     EXPECT_EQ(nameOf(".dat"), ".dat.lbn");
+    EXPECT_EQ(nameOf("C:\\data.old\\codes.dat"), "codes.lbn");
+    EXPECT_EQ(nameOf("C:\\data.old\\codes"), "data.lbn"); // the last dot is the folder's
 }
 
 TEST_F(CompilerTest, CompilesAndStores) {

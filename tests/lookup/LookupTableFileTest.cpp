@@ -217,6 +217,15 @@ TEST_F(LookupTableFileTest, AMissingFileIsNotCreated) {
     EXPECT_FALSE(TempFiles::Exists(path));
 }
 
+TEST_F(LookupTableFileTest, AFileThatCannotBeOpenedLeavesTheTableAsItWas) {
+    BuildPlain();
+    EXPECT_NE(LoadPath(m_files.Path("none.lbn")), "");
+    EXPECT_NE(LoadPath(m_files.Path("")), "");
+    EXPECT_NE(Load(""), "");
+    EXPECT_EQ(Outline(m_table.m_MenuTree), "A(1 2)");
+    EXPECT_TRUE(m_table.IsValidCode("A1"));
+}
+
 TEST_F(LookupTableFileTest, AFolderCannotBeOpened) {
     const std::string path = m_files.Path("");
     CString text;
@@ -410,6 +419,20 @@ TEST_F(LookupTableFileTest, CountsThatTheFileCannotHoldAreDamage) {
     const std::string menu = front + Bytes("02 00 00 00 00 00 00 00") + std::string(22, '\0');
     EXPECT_EQ(Load(menu + Bytes("01 00 00 FF FF FF FF FF 7F")), kBad);
     EXPECT_EQ(Load(menu + Bytes("01 00 00 00 00 FF FF FF 7F")), kBad);
+}
+
+TEST_F(LookupTableFileTest, ANodeHasAChildForEachCharacterAtMost) {
+    const auto bytes = [](int children) {
+        std::string trie = Bytes("01 00 00 00 00") + Long(children);
+        for (int i = 0; i < children; ++i)
+            trie += std::string{3, static_cast<char>(i), 0} + std::string(6, '\0');
+        return ExampleFront() + Bytes("02 00 00 00 00 00 00 00") + std::string(22, '\0') + trie;
+    };
+    EXPECT_EQ(Load(bytes(256)), "");
+    EXPECT_EQ(m_table.m_LookupTree.GetChildCount(), 256u);
+    EXPECT_TRUE(m_table.IsValidCode("\x01"));
+    EXPECT_TRUE(m_table.IsValidCode("\xFF"));
+    EXPECT_EQ(Load(bytes(257)), kBad);
 }
 
 // Nesting is as deep as the file is long: nothing here may stand on the stack.

@@ -253,6 +253,23 @@ TEST_F(LookupOptionsTest, TheRegistryHoldsTheTypesOfItsLayout) {
 
 // --- Logon
 
+// Other programs may leave out the closing null, or the whole text.
+TEST_F(LookupOptionsTest, TextsWithoutAClosingNullAreReadWhole) {
+    CLookupRegKey().SetReplaceString(""); // makes the key
+    const auto stored = [&](DWORD length) {
+        HKEY key = nullptr;
+        ::RegOpenKeyExA(m_registry.Root(), m_registry.Below("\\User"), 0, KEY_SET_VALUE, &key);
+        const CString text('x', static_cast<int>(length) + 1); // a null right behind would be stored with it
+        ::RegSetValueExA(key, "Replace String", 0, REG_SZ, reinterpret_cast<const BYTE *>(text.GetString()), length);
+        ::RegCloseKey(key);
+        CString read("as it was");
+        EXPECT_TRUE(CLookupRegKey().GetReplaceString(read));
+        return read;
+    };
+    for (DWORD length : {0u, 1u, 7u, 8u, 300u})
+        EXPECT_EQ(stored(length), CString('x', static_cast<int>(length))) << length;
+}
+
 TEST_F(LookupOptionsTest, OnAFreshRegistryAnyoneLogsOnWithoutADialog) {
     WithDialog act([](HWND dialog) { ::SendMessageA(dialog, WM_COMMAND, IDCANCEL, 0); });
     m_manager.DoAdminLoggon();
