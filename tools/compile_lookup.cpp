@@ -37,8 +37,10 @@ bool compile(Host &host, const char *path) {
     long row;
     CString errorText;
     const bool compiled = compiler.Compile(col, row, errorText);
-    if (!compiled)
-        std::fprintf(stderr, "%s: row %ld, field %d: %s\n", path, row + 1, col + 1, errorText.GetString());
+    if (!compiled && row >= 0)
+        std::fprintf(stderr, "%s: record %ld, field %d: %s\n", path, row + 1, col + 1, errorText.GetString());
+    else if (!compiled)
+        std::fprintf(stderr, "%s: %s\n", path, errorText.GetString());
     compiler.DetachDataSource();
     return compiled;
 }
