@@ -60,21 +60,27 @@ class Filter(sessions.Session):
         self.host = self.start(path)
         self.host.await_table("many.dbf")
 
-    def test_typing_does_not_wait_for_all_records_to_be_counted(self):
-        self.open_many()
+    def search_endlessly(self):
+        self.host.keys("ctrl+f")
+        self.host.await_title("Find")
+        self.host.type(ENDLESS)
+        self.host.keys("alt+x", "Return")
+
+    def begin_first_filter(self):
         self.host.keys("F7")
         self.host.await_title("Filters")
         self.host.keys("alt+n")
         self.host.await_title("Filter 1")
+
+    def test_typing_does_not_wait_for_all_records_to_be_counted(self):
+        self.open_many()
+        self.begin_first_filter()
         self.host.type(SLOW)
         wait_for("a part of the records", lambda: COUNTED.match(self.host.await_window(id=MISTAKE)["text"]))
 
     def test_a_stop_ends_nothing_but_the_work_it_was_meant_for(self):
         self.open_many()
-        self.host.keys("ctrl+f")
-        self.host.await_title("Find")
-        self.host.type(ENDLESS)
-        self.host.keys("alt+x", "Return")
+        self.search_endlessly()
         self.host.click_window(text="Stop (Esc)")
         self.host.await_no_window(text="Stop (Esc)")
         self.host.keys("Escape")
@@ -85,10 +91,7 @@ class Filter(sessions.Session):
 
     def test_escape_in_another_program_stops_nothing(self):
         self.open_many()
-        self.host.keys("ctrl+f")
-        self.host.await_title("Find")
-        self.host.type(ENDLESS)
-        self.host.keys("alt+x", "Return")
+        self.search_endlessly()
         self.host.await_window(text="Stop (Esc)")
         other = Host("notepad")
         self.addCleanup(other.kill)
@@ -98,10 +101,7 @@ class Filter(sessions.Session):
         self.assertIsNotNone(self.host.find(text="Stop (Esc)"))
 
     def test_a_mistake_is_named_as_it_is_typed(self):
-        self.host.keys("F7")
-        self.host.await_title("Filters")
-        self.host.keys("alt+n")
-        self.host.await_title("Filter 1")
+        self.begin_first_filter()
         self.host.type("SALRY > 30")
         self.await_mistake('There is no field "SALRY".')
         self.assertFalse(self.host.await_window(id=OK, text="OK")["enabled"])
@@ -235,10 +235,7 @@ class Filter(sessions.Session):
 
     def test_escape_and_a_button_stop_a_search_that_would_take_long(self):
         self.open_many()
-        self.host.keys("ctrl+f")
-        self.host.await_title("Find")
-        self.host.type(ENDLESS)
-        self.host.keys("alt+x", "Return")
+        self.search_endlessly()
         self.host.await_window(text="Stop (Esc)")
         self.host.keys("Escape")
         self.host.await_no_window(text="Stop (Esc)")
