@@ -1,7 +1,7 @@
 // Filters: attaching them, asking the source, and stepping over the records that they leave out.
 #include "dataeditor/OrvaneEditor.h"
 
-#include "editorcore/PaintingScope.h"
+#include "grid/PaintingScope.h"
 #include "editorcore/RecordsDlg.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // Widths that fit what the columns hold. Only the first rows are measured: fitting must stay quick on very long
 // tables.
 #include "editorcore/EditorCore.h"
-#include "editorcore/PaintingScope.h"
+#include "grid/PaintingScope.h"
 
 #include <algorithm>
 

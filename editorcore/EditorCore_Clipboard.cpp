@@ -2,7 +2,7 @@
 #include "editorcore/ClipboardText.h"
 #include "editorcore/EditorCore.h"
 #include "editorcore/MemoryGuard.h"
-#include "editorcore/PaintingScope.h"
+#include "grid/PaintingScope.h"
 
 #include <algorithm>
 #include <climits>

@@ -2,7 +2,7 @@
 // stands in the layout and, as column translations, in the grid; the two agree after every change.
 #include "editorcore/EditorCore.h"
 #include "editorcore/MemoryGuard.h"
-#include "editorcore/PaintingScope.h"
+#include "grid/PaintingScope.h"
 
 #include <algorithm>
 

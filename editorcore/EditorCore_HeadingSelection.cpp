@@ -2,7 +2,7 @@
 // keys.
 #include "editorcore/AutoScroll.h"
 #include "editorcore/EditorCore.h"
-#include "editorcore/PaintingScope.h"
+#include "grid/PaintingScope.h"
 
 #include <algorithm>
 
