@@ -3,6 +3,7 @@
 #include "EditorWindowTest.h"
 
 #include "AllocationFault.h"
+#include "DbfTable.h"
 #include "host/sources/DbfDataSource.h"
 #include "resources/ResourceIds.h"
 
@@ -19,29 +20,11 @@ constexpr int kRecords = 6;
 constexpr const char *kOutOfMemory = "Out of memory!|16";
 constexpr const char *kNoMemoryInWindow = "Out of memory.|4144\nOut of memory.|48";
 
-// A table of four character fields of five bytes and six records.
-std::string TableBytes() {
-    const auto word = [](int value) { return std::string{char(value & 0xFF), char(value >> 8)}; };
-    std::string bytes = "\x03" + std::string("\x7A\x01\x01") + word(kRecords) + std::string(2, '\0') +
-                        word(32 + 32 * kFields + 1) + word(1 + 5 * kFields) + std::string(20, '\0');
-    for (int field = 0; field < kFields; ++field) {
-        bytes += "F" + std::to_string(field) + std::string(9, '\0') + "C" + std::string(4, '\0') + "\x05" +
-                 std::string(15, '\0');
-    }
-    bytes += "\r";
-    for (int row = 0; row < kRecords; ++row) {
-        bytes += " ";
-        for (int field = 0; field < kFields; ++field)
-            bytes += std::to_string(field) + "." + std::to_string(row) + "  ";
-    }
-    return bytes + "\x1A";
-}
-
 class EditorMemoryTest : public EditorWindowTest {
 protected:
     using Work = std::function<void(TestEditor &)>;
 
-    EditorMemoryTest() { m_path = MakeFile("table.dbf", TableBytes()); }
+    EditorMemoryTest() { m_path = MakeFile("table.dbf", DbfTableBytes(kFields, kRecords)); }
 
     TestEditor &MakeWithSource() {
         TestEditor &editor = Make();
