@@ -119,7 +119,7 @@ void COrvaneEditor::OnLockColumns() {
     const int delta = SpanOfColumns(m_nLockedCols, wanted) - SpanOfColumns(wanted, m_nLockedCols);
     const int sideWidth = std::max(GetSH_Width() + delta, 0);
     SetSH_Width(sideWidth);
-    SetLockedColumns(wanted);
+    LockColumns(wanted);
     m_pLayout->SetSideHeadingWidth(sideWidth);
     m_pLayout->SetFrozenCols(wanted);
     m_nLockedCols = wanted;

@@ -62,7 +62,7 @@ bool COrvaneEditor::LoadData(const char *path, const char *table, int filter, in
 
 void COrvaneEditor::LockLoadedColumns() {
     m_nLockedCols = std::clamp(m_pLayout->GetFrozenCols(), 0, GetNumberCols());
-    SetLockedColumns(m_nLockedCols);
+    LockColumns(m_nLockedCols);
 }
 
 bool COrvaneEditor::InitLookupFiles() {

@@ -1,6 +1,7 @@
 // Widths that fit what the columns hold. Only the first rows are measured: fitting must stay quick on very long
 // tables.
 #include "editorcore/EditorCore.h"
+#include "editorcore/FrozenWidthScope.h"
 #include "grid/PaintingScope.h"
 
 #include <algorithm>
@@ -45,12 +46,15 @@ bool CEditorCore::FitOneColumn(int col, int rows, int charWidth) {
     return true;
 }
 
-// Columns of the selection behind the clicked one keep their widths, unless their heading or button needs more.
+// Columns of the selection after the clicked one keep their widths, unless their heading needs more.
 bool CEditorCore::FitColumnsOfSelection(int first, int last, int col, int rows, int charWidth) {
     if (BestFit(first, col, rows) != GRID_SUCCESS)
         return false;
     for (int i = first; i <= last; ++i) {
-        const int width = FittedWidth(i);
+        int width = 0;
+        GetColWidth(i, &width);
+        if (i <= col)
+            width = FittedWidth(i);
         SetColWidth(i, charWidth > 0 ? std::max(width, HeadingMinimumWidth(i, charWidth)) : width);
     }
     return true;
@@ -71,6 +75,8 @@ void CEditorCore::OnTH_DClicked(int col) {
     if (col < 0 || m_pLayout == nullptr || GetCurrentSelection(&first, &top, &last, &bottom) != GRID_SUCCESS)
         return;
     last = std::min(last, GetNumberCols() - 1);
+    if (first > last)
+        return;
     const int rows = static_cast<int>(std::min(GetNumberRows(), kMeasuredRows));
     const int charWidth = HeadingCharWidth();
     const int fitted = first == last ? col : first;
@@ -84,6 +90,7 @@ void CEditorCore::OnTH_DClicked(int col) {
     collect(oldWidths);
     {
         CPaintingScope quiet(this);
+        const CFrozenWidthScope keepingStep(this);
         if (first == last ? !FitOneColumn(col, rows, charWidth)
                           : !FitColumnsOfSelection(first, last, col, rows, charWidth))
             return;

@@ -1,5 +1,7 @@
 // The fonts of all editors.
 #include "editorcore/EditorCore.h"
+#include "editorcore/FrozenWidthScope.h"
+#include "grid/PaintingScope.h"
 
 #include <memory>
 
@@ -45,7 +47,8 @@ void CEditorCore::SetFonts(const LOGFONTA &cell, const LOGFONTA &heading) {
 
 // Columns and the top heading grow where the new heading font needs it; they never shrink.
 void CEditorCore::ApplyFonts(CFont *cell, CFont *heading, int maxCharWidth, int headingHeight) {
-    EnablePainting(0);
+    CPaintingScope quiet(this);
+    const CFrozenWidthScope keepingStep(this);
     SetDefaultFont(cell);
     CUGCell defaults;
     GetHeadingDefault(&defaults);
@@ -57,11 +60,15 @@ void CEditorCore::ApplyFonts(CFont *cell, CFont *heading, int maxCharWidth, int 
         const int needed = name.GetLength() * maxCharWidth + 1;
         int width = 0;
         GetColWidth(col, &width);
-        if (needed > width)
-            SetColWidth(col, needed);
+        if (needed <= width)
+            continue;
+        SetColWidth(col, needed);
+        if (m_pLayout != nullptr)
+            m_pLayout->SetColWidth(col, needed);
     }
-    if (headingHeight > GetTH_Height())
+    if (headingHeight > GetTH_Height()) {
         SetTH_Height(headingHeight);
-    EnablePainting(1);
-    RedrawAll();
+        if (m_pLayout != nullptr)
+            m_pLayout->SetTopHeadingHeight(headingHeight);
+    }
 }

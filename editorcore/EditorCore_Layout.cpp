@@ -1,5 +1,9 @@
 // The layout file beside the data file, and the layout of a table that has none yet.
 #include "editorcore/EditorCore.h"
+#include "editorcore/FrozenWidthScope.h"
+#include "editorcore/ValueScope.h"
+#include "editorcore/WaitCursorScope.h"
+#include "grid/PaintingScope.h"
 
 #include <algorithm>
 
@@ -39,8 +43,8 @@ bool CEditorCore::Serialize(bool store) {
         file.Abort();
         return false;
     }
-    m_bAutoSaveLayout = false;
     try {
+        const CValueScope withinHere(&m_bAutoSaveLayout, false);
         CArchive archive(&file, store ? CArchive::store : CArchive::load);
         Serialize(archive);
         archive.Close();
@@ -50,7 +54,6 @@ bool CEditorCore::Serialize(bool store) {
         e->Delete(); // a layout that cannot be read gives way to a fresh one
         file.Abort();
     }
-    m_bAutoSaveLayout = true;
     m_bLayoutValid = !store;
     return m_pLayout->IsTableFound();
 }
@@ -64,31 +67,31 @@ void CEditorCore::SetGridLayout() {
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (source == nullptr)
         return;
-    EnablePainting(0);
+    CPaintingScope quiet(this);
     if (!Serialize(false)) {
         BuildDefaultLayout(true);
     } else if (!m_pLayout->ApplyToGrid(source)) {
-        ms_pAppInterface->DoWaitCursor(1);
+        const CWaitCursorScope waiting(ms_pAppInterface);
         BuildDefaultLayout(false);
-        ms_pAppInterface->DoWaitCursor(-1);
     }
     m_bLayoutValid = true;
     if (source->GetNumRows() == 0)
         SetNumberRows(0, 1);
-    EnablePainting(1);
 }
 
 void CEditorCore::BuildDefaultLayout(bool setTranslations) {
     CUGDataSource *source = GetCurrentDataSrc(false);
-    EnablePainting(0);
-    SetGridUsingDataSource(m_nDataSrcIndex);
-    CUGCtrl::SetNumberRows(std::max(RowsOfSource(source), 0L), 1);
-    SetGridInitColWidths();
-    SetRowHeight(0, ScaledRowHeight(kDefaultRowHeightPx));
-    if (setTranslations) {
-        for (int col = 0; col < GetNumberCols(); ++col)
-            SetColTranslation(col, col);
+    {
+        CPaintingScope quiet(this);
+        const CFrozenWidthScope keepingStep(this);
+        SetGridUsingDataSource(m_nDataSrcIndex);
+        CUGCtrl::SetNumberRows(std::max(RowsOfSource(source), 0L), 1);
+        SetGridInitColWidths();
+        SetRowHeight(0, ScaledRowHeight(kDefaultRowHeightPx));
+        if (setTranslations) {
+            for (int col = 0; col < GetNumberCols(); ++col)
+                SetColTranslation(col, col);
+        }
     }
-    EnablePainting(1);
     m_pLayout->CaptureFromGrid();
 }

@@ -1,5 +1,6 @@
 // Sizing by mouse: the layout follows what the grid has already done, and the history keeps both sizes.
 #include "editorcore/EditorCore.h"
+#include "editorcore/FrozenWidthScope.h"
 #include "editorcore/MemoryGuard.h"
 
 #include <algorithm>
@@ -93,9 +94,11 @@ void CEditorCore::OnResizeHeadings(int oldSide, int newSide, int oldTop, int new
     m_pLayout->SetTopHeadingHeight(newTop);
     m_pLayout->SetSideHeadingWidth(newSide);
     RecordSizing([&] {
-        return std::make_unique<HeadingsCommand>(oldSide, newSide, oldTop, newTop, this,
-                                                 &CEditorCore::ExecResizeHeadings,
-                                                 &CEditorCore::UnExecResizeHeadings);
+        auto command = std::make_unique<HeadingsCommand>(oldSide, newSide, oldTop, newTop, this,
+                                                         &CEditorCore::ExecResizeHeadings,
+                                                         &CEditorCore::UnExecResizeHeadings);
+        command->m_nFrozenSpan = FrozenSpan();
+        return command;
     });
 }
 
@@ -114,17 +117,52 @@ void CEditorCore::OnChangeMultColWidths(int startCol, int, const CArray<int, int
     });
 }
 
-bool CEditorCore::ExecChangeColWidth(SizingCommand *command) {
+// --- Frozen columns, which the side heading shows as well
+
+// Pixels of the frozen columns.
+int CEditorCore::FrozenSpan() {
+    int span = 0;
+    for (int col = 0; col < m_GI.m_lockedCols; ++col) {
+        int width = 0;
+        GetColWidth(col, &width);
+        span += width;
+    }
+    return span;
+}
+
+void CEditorCore::LockColumns(int count) {
+    m_nColsToLock = count;
+    SetLockedColumns(std::min(count, GetNumberCols()));
+}
+
+// The side heading with `ownWidth` pixels of its own in front of the frozen columns as they are now.
+void CEditorCore::FitSideHeading(int ownWidth) {
+    if (m_GI.m_lockedCols != std::min(m_nColsToLock, GetNumberCols()))
+        LockColumns(m_nColsToLock);
+    const int width = std::max(ownWidth + FrozenSpan(), 0);
+    if (width == GetSH_Width())
+        return;
+    SetSH_Width(width);
+    if (m_pLayout != nullptr)
+        m_pLayout->SetSideHeadingWidth(width);
+}
+
+// --- What the commands of the history do
+
+void CEditorCore::SizeColumn(int col, int width) {
     CEditCommandGuard guard(this);
-    SetColWidth(command->m_nIndex, command->m_nNewSize);
-    m_pLayout->SetColWidth(command->m_nIndex, command->m_nNewSize);
+    const CFrozenWidthScope keepingStep(this);
+    SetColWidth(col, width);
+    m_pLayout->SetColWidth(col, width);
+}
+
+bool CEditorCore::ExecChangeColWidth(SizingCommand *command) {
+    SizeColumn(command->m_nIndex, command->m_nNewSize);
     return true;
 }
 
 bool CEditorCore::UnExecChangeColWidth(SizingCommand *command) {
-    CEditCommandGuard guard(this);
-    SetColWidth(command->m_nIndex, command->m_nOldSize);
-    m_pLayout->SetColWidth(command->m_nIndex, command->m_nOldSize);
+    SizeColumn(command->m_nIndex, command->m_nOldSize);
     return true;
 }
 
@@ -142,8 +180,10 @@ bool CEditorCore::UnExecChangeRowHeight(SizingCommand *command) {
     return true;
 }
 
-void CEditorCore::SetHeadings(int sideWidth, int topHeight) {
+// Other columns may be frozen than when the widths were taken.
+void CEditorCore::SetHeadings(const HeadingsCommand &command, int sideWidth, int topHeight) {
     CEditCommandGuard guard(this);
+    sideWidth = std::max(sideWidth + FrozenSpan() - command.m_nFrozenSpan, 0);
     SetSH_Width(sideWidth);
     SetTH_Height(topHeight);
     m_pLayout->SetTopHeadingHeight(topHeight);
@@ -151,16 +191,17 @@ void CEditorCore::SetHeadings(int sideWidth, int topHeight) {
 }
 
 bool CEditorCore::ExecResizeHeadings(HeadingsCommand *command) {
-    SetHeadings(command->m_nNewSideWidth, command->m_nNewTopHeight);
+    SetHeadings(*command, command->m_nNewSideWidth, command->m_nNewTopHeight);
     return true;
 }
 
 bool CEditorCore::UnExecResizeHeadings(HeadingsCommand *command) {
-    SetHeadings(command->m_nOldSideWidth, command->m_nOldTopHeight);
+    SetHeadings(*command, command->m_nOldSideWidth, command->m_nOldTopHeight);
     return true;
 }
 
 void CEditorCore::SetColWidths(const MultiSizingCommand &command, const CArray<int, int> &widths) {
+    const CFrozenWidthScope keepingStep(this);
     for (int i = 0; i < widths.GetSize(); ++i) {
         SetColWidth(command.m_nStartCol + i, widths.GetAt(i));
         m_pLayout->SetColWidth(command.m_nStartCol + i, widths.GetAt(i));

@@ -49,6 +49,7 @@ public:
 
     int m_nOldSideWidth, m_nNewSideWidth;
     int m_nOldTopHeight, m_nNewTopHeight;
+    int m_nFrozenSpan = 0; // of the frozen columns that both side widths include
 };
 
 // The widths of columns that stand side by side, in pixels.

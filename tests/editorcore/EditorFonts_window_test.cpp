@@ -114,4 +114,19 @@ TEST_F(EditorFontsTest, ChangesLeaveNoFontsBehind) {
     EXPECT_LE(HighestDrawingHandle(), before + 50);
 }
 
+TEST_F(EditorFontsTest, TheLayoutLearnsWhatGrewForTheFonts) {
+    const std::string path = MakeFile("t.dat");
+    TestEditor &editor = Make();
+    Source(2, 3);
+    ASSERT_TRUE(editor.LoadData(path.c_str(), nullptr, kEditNormal, ""));
+    CEditorCore::SetFonts(FontOf(12), FontOf(48));
+    EXPECT_EQ(editor.Widths(), editor.FieldWidths());
+    const int height = editor.GetTH_Height();
+    editor.CloseDataSource(false);
+    editor.SetTH_Height(20);
+    Source(2, 3);
+    ASSERT_TRUE(editor.LoadData(path.c_str(), nullptr, kEditNormal, ""));
+    EXPECT_EQ(height, editor.GetTH_Height());
+}
+
 } // namespace

@@ -209,4 +209,16 @@ TEST_F(EditorSizingTest, ADoubleClickRightOfTheColumnsDoesNothing) {
     EXPECT_FALSE(editor.CanUndo());
 }
 
+TEST_F(EditorSizingTest, ValidatingColumnsAfterTheClickedOneKeepTheirWidths) {
+    TestEditor &editor = Open(3, 2);
+    CUGEllipsisType type;
+    type.SetID(editor.GetNewCellTypeId(2));
+    editor.AddCellType(&type);
+    editor.SetCellType("F2", type.GetID());
+    SetWidths(editor, 120);
+    editor.SelectColumns(0, 2);
+    editor.OnTH_DClicked(1);
+    EXPECT_EQ(",120", editor.Widths().substr(editor.Widths().rfind(',')));
+}
+
 } // namespace
