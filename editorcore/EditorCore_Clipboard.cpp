@@ -2,6 +2,8 @@
 #include "editorcore/ClipboardText.h"
 #include "editorcore/EditorCore.h"
 #include "editorcore/MemoryGuard.h"
+#include "editorcore/TransactionScope.h"
+#include "editorcore/WaitCursorScope.h"
 #include "grid/PaintingScope.h"
 
 #include <algorithm>
@@ -9,7 +11,7 @@
 
 namespace {
 
-constexpr long kWaitCursorCells = 50;   // more show the wait cursor
+constexpr long long kWaitCursorCells = 50; // more show the wait cursor
 constexpr long kCellsPerLook = 10000;   // between looks for a stop: a selection can span a whole table
 constexpr int kColumnsPlus = 1;         // what the estimate adds to a field's width
 constexpr int kRowPlus = 2;             // and to a row's
@@ -20,7 +22,11 @@ bool HasEditSelection(CEdit *edit) {
     return start != end;
 }
 
-// The clipboard held open for the length of a block.
+long long CellsOf(int left, long top, int right, long bottom) {
+    return static_cast<long long>(right - left + 1) * (bottom - top + 1);
+}
+
+// The clipboard held open for the duration of a block.
 class OpenedClipboard {
 public:
     explicit OpenedClipboard(HWND owner) : m_open(::OpenClipboard(owner) != FALSE) {}
@@ -66,8 +72,7 @@ long CEditorCore::EstimateSelectedText() {
     int left, right;
     long top, bottom;
     CUGDataSource *source = GetCurrentDataSrc(false);
-    if (source == nullptr || !IsInMultipleSelection() ||
-        GetCurrentSelection(&left, &top, &right, &bottom) != GRID_SUCCESS)
+    if (source == nullptr || !IsInMultipleSelection() || !SelectedBlock(&left, &top, &right, &bottom))
         return 0;
     long long row = kRowPlus;
     for (int col = left; col <= right; ++col)
@@ -83,14 +88,15 @@ void CEditorCore::AppendSelectedTexts(CString &out, bool clearCells, bool *stopp
     long row, lastRow = -1, count = 0;
     CUGCell cell;
     for (int more = EnumFirstSelected(&col, &row); more == GRID_SUCCESS; more = EnumNextSelected(&col, &row)) {
-        if (row < 0)
-            continue; // of an empty table's column the selection reaches into the heading
-        if (count % kCellsPerLook == 0 && AbortOperation()) {
+        // Of an empty table's column the selection reaches into the heading, and one that a host made beyond the end.
+        if (row < 0 || row >= CUGCtrl::GetNumberRows() || col >= GetNumberCols())
+            continue;
+        if (count > 0)
+            out += row == lastRow ? "\t" : "\r\n";
+        if (count++ % kCellsPerLook == 0 && AbortOperation()) {
             *stopped = true;
             return;
         }
-        if (count++ > 0)
-            out += row == lastRow ? "\t" : "\r\n";
         lastRow = row;
         if (GetCell(col, row, &cell) == GRID_SUCCESS)
             out += cell.GetText();
@@ -183,8 +189,19 @@ bool CEditorCore::GetClipBoardDataInfo(int *cols, long *rows) {
 
 // --- The user's commands
 
+// The rectangle around what is selected, as far as there are cells. False when nothing of the table is.
+bool CEditorCore::SelectedBlock(int *left, long *top, int *right, long *bottom) {
+    if (GetCurrentSelection(left, top, right, bottom) != GRID_SUCCESS)
+        return false;
+    *left = std::max(*left, 0);
+    *top = std::max(*top, 0L);
+    *right = std::min(*right, GetNumberCols() - 1);
+    *bottom = std::min(*bottom, LastRowIndex());
+    return *left <= *right && *top <= *bottom;
+}
+
 void CEditorCore::BlankCells(int left, long top, int right, long bottom) {
-    for (long row = std::max(top, 0L); row <= bottom; ++row) {
+    for (long row = top; row <= bottom; ++row) {
         for (int col = left; col <= right; ++col)
             QuickSetText(col, row, "");
     }
@@ -192,7 +209,7 @@ void CEditorCore::BlankCells(int left, long top, int right, long bottom) {
 
 void CEditorCore::OnCut(bool toClipboard) {
     constexpr int kWholeRows = 2;
-    if (IsGridReadOnly())
+    if (IsGridReadOnly() || GetNumberCols() == 0)
         return;
     if (m_nHeadingSelectMode == kWholeRows) {
         OnDeleteRows(true);
@@ -205,25 +222,22 @@ void CEditorCore::OnCut(bool toClipboard) {
     }
     int left, right;
     long top, bottom;
-    if (GetCurrentSelection(&left, &top, &right, &bottom) != GRID_SUCCESS)
+    if (!SelectedBlock(&left, &top, &right, &bottom))
         return;
-    const bool wait = (right - left + 1) * (bottom - top + 1) > kWaitCursorCells;
     NotifyEdited();
-    if (wait)
-        ms_pAppInterface->DoWaitCursor(1);
-    StartTransaction();
-    const bool inMemory = RunInMemory([&] {
-        if (toClipboard)
-            CopySelected(1);
-        else
-            BlankCells(left, top, right, bottom);
-    });
-    if (!inMemory)
-        ReportOutOfMemory();
-    EndTransaction();
-    RedrawCell(GetCurrentCol(), GetCurrentRow());
-    if (wait)
-        ms_pAppInterface->DoWaitCursor(-1);
+    {
+        const CWaitCursorScope waiting(ms_pAppInterface, CellsOf(left, top, right, bottom) > kWaitCursorCells);
+        const bool inMemory = RunInMemory([&] {
+            const CTransactionScope oneStep(this);
+            if (toClipboard)
+                CopySelected(1);
+            else
+                BlankCells(left, top, right, bottom);
+        });
+        if (!inMemory)
+            ReportOutOfMemory();
+        RedrawCell(GetCurrentCol(), GetCurrentRow());
+    }
     NotifyEdited();
     RedrawAll();
 }
@@ -236,19 +250,17 @@ void CEditorCore::OnCopy() {
     }
     int left, right;
     long top, bottom;
-    if (GetCurrentSelection(&left, &top, &right, &bottom) != GRID_SUCCESS)
+    if (!SelectedBlock(&left, &top, &right, &bottom))
         return;
-    const bool wait = (right - left + 1) * (bottom - top + 1) > kWaitCursorCells;
-    if (wait)
-        ms_pAppInterface->DoWaitCursor(1);
-    {
+    const CWaitCursorScope waiting(ms_pAppInterface, CellsOf(left, top, right, bottom) > kWaitCursorCells);
+    const bool inMemory = RunInMemory([&] {
         CPaintingScope quiet(this);
         CopySelected(0);
         ClearSelections();
         SelectRange(left, top, right, bottom); // the copy took the selection away
-    }
-    if (wait)
-        ms_pAppInterface->DoWaitCursor(-1);
+    });
+    if (!inMemory)
+        ReportOutOfMemory();
 }
 
 bool CEditorCore::CanCut() {

@@ -2,6 +2,8 @@
 #include "editorcore/ClipboardText.h"
 #include "editorcore/EditorCore.h"
 #include "editorcore/MemoryGuard.h"
+#include "editorcore/TransactionScope.h"
+#include "editorcore/WaitCursorScope.h"
 
 #include <algorithm>
 
@@ -35,6 +37,7 @@ int CEditorCore::Paste() {
 }
 
 int CEditorCore::Paste(CString &text) {
+    SettleEdit();
     const int startCol = GetCurrentCol();
     const long startRow = GetCurrentRow();
     int lastCol = startCol;
@@ -51,7 +54,9 @@ int CEditorCore::Paste(CString &text) {
         lastRow = std::max(lastRow, startRow + reader.m_row);
     }
     ClearSelections();
-    SelectRange(startCol, startRow, lastCol, lastRow);
+    // Rows of different lengths may reach past the table, the selection does not.
+    SelectRange(startCol, startRow, std::min(lastCol, std::max(GetNumberCols() - 1, startCol)),
+                std::min(lastRow, std::max(CUGCtrl::GetNumberRows() - 1, startRow)));
     RedrawAll();
     return GRID_SUCCESS;
 }
@@ -60,8 +65,7 @@ int CEditorCore::Paste(CString &text) {
 bool CEditorCore::PlacePaste(PasteBlock *block) {
     int left = 0, right = 0;
     long top = 0, bottom = 0;
-    const bool multiple =
-        IsInMultipleSelection() && GetCurrentSelection(&left, &top, &right, &bottom) == GRID_SUCCESS;
+    const bool multiple = IsInMultipleSelection() && SelectedBlock(&left, &top, &right, &bottom);
     block->wholeRecords = block->cols == GetNumberCols() && !multiple;
     const bool match = multiple && right - left + 1 == block->cols && bottom - top + 1 == block->rows;
     const char *refusal = nullptr;
@@ -123,23 +127,18 @@ void CEditorCore::OnPaste() {
     CUGDataSource *source = GetCurrentDataSrc(true);
     if (source == nullptr || !PlacePaste(&block))
         return;
-    const bool wait = block.Cells() > kWaitCursorCells;
-    if (wait)
-        ms_pAppInterface->DoWaitCursor(1);
+    CWaitCursorScope waiting(ms_pAppInterface, block.Cells() > kWaitCursorCells);
     OnEditNotify();
-    StartTransaction();
-    bool room = true;
     const bool inMemory = RunInMemory([&] {
-        room = MakeRoomForPaste(source, block);
-        if (room)
+        const CTransactionScope oneStep(this);
+        if (MakeRoomForPaste(source, block))
             Paste();
+        else
+            waiting.LeaveRaised();
     });
     if (!inMemory) {
         RunInMemory([this] { ShowRowsOfSource(); });
         ReportOutOfMemory();
     }
-    EndTransaction();
     RedrawAll();
-    if (wait && room)
-        ms_pAppInterface->DoWaitCursor(-1); // without room it stays raised: hosts put it right with a 0
 }

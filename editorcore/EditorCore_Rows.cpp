@@ -3,6 +3,7 @@
 #include "editorcore/EditorCore.h"
 #include "editorcore/MemoryGuard.h"
 #include "editorcore/RecordsDlg.h"
+#include "editorcore/WaitCursorScope.h"
 
 #include <algorithm>
 
@@ -38,10 +39,8 @@ void CEditorCore::AppendRecord(int col) {
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (source == nullptr || source->AppendRow() != GRID_SUCCESS)
         AfxMessageBox("Could not add record to data source!", MB_ICONHAND, 0);
-    if (source == nullptr)
-        return;
     ShowRowsOfSource();
-    const long last = source->GetNumRows() - 1;
+    const long last = (source != nullptr ? source->GetNumRows() : GetNumberRows()) - 1;
     RedrawRow(last);
     GotoCell(col, last);
     NotifyEdited();
@@ -88,13 +87,10 @@ bool CEditorCore::InsertRecords(CUGDataSource *source, long row, long count, boo
     const long rowsBefore = GetNumberRows();
     const bool atEnd = row == source->GetNumRows();
     bool done = false;
-    const bool inMemory = RunInMemory([&] {
+    {
+        const CWaitCursorScope waiting(ms_pAppInterface, waitCursor);
         done = atEnd ? AppendRows(source, count) : source->InsertRows(row, count) == GRID_SUCCESS;
-    });
-    if (waitCursor)
-        ms_pAppInterface->DoWaitCursor(-1);
-    if (!inMemory)
-        AfxThrowMemoryException();
+    }
     if (!done) {
         AfxMessageBox(atEnd ? "Could not append data source record!" : "Could not insert records!", MB_ICONHAND, 0);
         return false;
@@ -107,13 +103,15 @@ bool CEditorCore::InsertRecords(CUGDataSource *source, long row, long count, boo
 
 bool CEditorCore::ExecInsertRows(long row, long count, bool waitCursor) {
     CEditCommandGuard guard(this);
-    CUGDataSource *source = GetCurrentDataSrc(false);
-    if (source == nullptr)
+    if (GetCurrentDataSrc(false) == nullptr)
         return false;
-    if (waitCursor)
-        ms_pAppInterface->DoWaitCursor(1);
     bool done = false;
-    return ChangeRows([&] { done = InsertRecords(source, row, count, waitCursor); }) && done;
+    const bool inMemory = ChangeRows([&] {
+        SettleEdit(); // the box's row holds another record afterwards
+        if (CUGDataSource *source = GetCurrentDataSrc(false))
+            done = InsertRecords(source, row, count, waitCursor);
+    });
+    return inMemory && done;
 }
 
 // --- Deleting
@@ -127,7 +125,10 @@ void CEditorCore::OnDeleteRows(bool toClipboard) {
     ChangeRows([&] {
         int left, right;
         long first, bottom, count;
-        if (GetCurrentSelection(&left, &first, &right, &bottom) == GRID_SUCCESS && bottom > first) {
+        const bool selected = IsInMultipleSelection();
+        if (selected && GetNumberRows() == 0)
+            return; // a column of an empty table, which reaches over the placeholder
+        if (SelectedBlock(&left, &first, &right, &bottom) && bottom > first) {
             count = bottom - first + 1; // the columns play no part: rows go whole
         } else {
             first = GetCurrentRow();
@@ -140,15 +141,14 @@ void CEditorCore::OnDeleteRows(bool toClipboard) {
 
 void CEditorCore::DeleteChosenRows(long firstRow, long count, bool toClipboard) {
     const long last = firstRow + count - 1;
-    const bool wait = GetNumberCols() * count > kWaitCursorCells;
-    if (wait)
-        ms_pAppInterface->DoWaitCursor(1);
-    if (toClipboard && !SaveRowsToClipboard(firstRow, last))
-        return; // the wait cursor stays raised: hosts put it right with a 0
+    CWaitCursorScope waiting(ms_pAppInterface, static_cast<long long>(GetNumberCols()) * count > kWaitCursorCells);
+    if (toClipboard && !SaveRowsToClipboard(firstRow, last)) {
+        waiting.LeaveRaised();
+        return;
+    }
     NotifyEdited();
     ExecDeleteRows(firstRow, last);
-    if (wait)
-        ms_pAppInterface->DoWaitCursor(-1);
+    waiting.End();
     PostCommandsChanged();
 }
 
@@ -166,26 +166,28 @@ bool CEditorCore::SaveRowsToClipboard(long firstRow, long lastRow) {
 
 bool CEditorCore::ExecDeleteRows(long firstRow, long lastRow) {
     CEditCommandGuard guard(this);
-    CUGDataSource *source = GetCurrentDataSrc(false);
-    if (source == nullptr)
+    if (GetCurrentDataSrc(false) == nullptr)
         return false;
     bool done = false;
-    return ChangeRows([&] { done = DeleteRecords(source, firstRow, lastRow); }) && done;
+    const bool inMemory = ChangeRows([&] {
+        SettleEdit();
+        if (CUGDataSource *source = GetCurrentDataSrc(false))
+            done = DeleteRecords(source, firstRow, lastRow);
+    });
+    return inMemory && done;
 }
 
 bool CEditorCore::DeleteRecords(CUGDataSource *source, long firstRow, long lastRow) {
-    ms_pAppInterface->DoWaitCursor(1);
+    CWaitCursorScope waiting(ms_pAppInterface);
     const long rowsBefore = GetNumberRows();
     const long count = lastRow - firstRow + 1;
     if (SetNumberRows(rowsBefore - count, 0) != GRID_SUCCESS) {
+        waiting.LeaveRaised();
         AfxMessageBox("Could not remove rows from grid!", MB_ICONHAND, 0);
-        return false; // the wait cursor stays raised: hosts put it right with a 0
+        return false;
     }
-    int result = GRID_ERROR;
-    const bool inMemory = RunInMemory([&] { result = source->DeleteRows(firstRow, count); });
-    ms_pAppInterface->DoWaitCursor(-1);
-    if (!inMemory)
-        AfxThrowMemoryException();
+    const int result = source->DeleteRows(firstRow, count);
+    waiting.End();
     if (result != GRID_SUCCESS) {
         AfxMessageBox("Could not delete records!", MB_ICONHAND, 0);
         SetNumberRows(rowsBefore, 1);

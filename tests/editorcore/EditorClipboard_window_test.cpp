@@ -91,14 +91,24 @@ TEST_F(EditorClipboardTest, CopyingFiftyCellsHasNoWaitCursorAndFiftyOneHas) {
 TEST_F(EditorClipboardTest, AStopWhileCopyingLeavesWhatWasGatheredOnTheClipboard) {
     TestEditor &editor = Open(1, 10050);
     editor.SelectColumns(0, 0);
+    m_service.m_abortAtLook = m_service.m_looks + 2; // before the first cell, and before the 10,001st
+    editor.OnCopy();
+    m_service.m_abortAtLook = 0;
+    const std::string text = Clipboard();
+    EXPECT_EQ("0.0\r\n0.1\r\n", text.substr(0, 10));
+    EXPECT_EQ("\r\n0.9999\r\n", text.substr(text.size() - 10)); // the separator of the cell that did not come
+}
+
+TEST_F(EditorClipboardTest, ARequestToStopIsHeededBeforeTheFirstCellAndUsedUp) {
+    TestEditor &editor = Open(1, 3);
+    editor.SelectColumns(0, 0);
     editor.RequestAbort();
     CString text;
-    EXPECT_FALSE(editor.CreateSelectedString(text, 0, false)); // it looks before the first cell
-    EXPECT_STREQ("", text);
-    EXPECT_FALSE(editor.Abort()); // the request is used up
-    EXPECT_TRUE(editor.CreateSelectedString(text, 0, false));
-    m_service.m_abort = 1;
     EXPECT_FALSE(editor.CreateSelectedString(text, 0, false));
+    EXPECT_STREQ("", text);
+    EXPECT_FALSE(editor.Abort());
+    EXPECT_TRUE(editor.CreateSelectedString(text, 0, false));
+    EXPECT_STREQ("0.0\r\n0.1\r\n0.2", text);
 }
 
 TEST_F(EditorClipboardTest, CopyAndCutAnswerTheClipboardsResultAndClearTheSelection) {
@@ -366,15 +376,23 @@ TEST_F(EditorClipboardTest, TwoHundredAndFiftyCellsHaveNoWaitCursorAndOneMoreHas
 TEST_F(EditorClipboardTest, AStopWhilePastingLeavesTheCellsWrittenInsideTheOneStep) {
     TestEditor &editor = Open(3, 3);
     SetClipboard("a\r\nb\r\nc");
-    editor.SelectRange(0, 0, 0, 0);
-    m_service.m_abort = 1;
+    m_service.m_abortAtLook = m_service.m_looks + 3;
     editor.OnPaste();
-    EXPECT_EQ("Title(table,null) src.StartTransaction() src.EndTransaction()", m_log.Take());
-    m_service.m_abort = 0;
+    m_service.m_abortAtLook = 0;
+    EXPECT_EQ("a,1.0,2.0/b,1.1,2.1/0.2,1.2,2.2", Table());
+    EXPECT_EQ("Title(table,null) src.StartTransaction() src.SetCell(0,0,a) src.SetCell(0,1,b) src.EndTransaction()",
+              m_log.Take());
+    EXPECT_EQ("0,0..0,0", editor.Selection().substr(0, 8)); // what was written is not selected
+}
+
+TEST_F(EditorClipboardTest, ARequestToStopEndsOnePasteBeforeItsFirstCell) {
+    TestEditor &editor = Open(3, 3);
     editor.RequestAbort();
     CString text("a");
     EXPECT_EQ(GRID_ERROR, editor.Paste(text));
+    EXPECT_EQ("0.0", m_source->Text(0, 0));
     EXPECT_EQ(GRID_SUCCESS, editor.Paste(text));
+    EXPECT_EQ("a", m_source->Text(0, 0));
 }
 
 TEST_F(EditorClipboardTest, OneCellGoesIntoTheOpenBox) {
@@ -397,6 +415,56 @@ TEST_F(EditorClipboardTest, ABlockEndsTheEditFirst) {
 TEST_F(EditorClipboardTest, WithoutASourceThePasteSaysSo) {
     TestEditor &editor = Make();
     EXPECT_EQ("Could not get data source!|16", PasteMessage(editor, "x"));
+}
+
+TEST_F(EditorClipboardTest, OneCellIsPastedIntoAnEmptyTableWithAColumnSelected) {
+    TestEditor &editor = Open(2, 0);
+    editor.SelectColumns(0, 0);
+    EXPECT_EQ("", PasteMessage(editor, "x"));
+    EXPECT_EQ("x,", Table());
+}
+
+TEST_F(EditorClipboardTest, WithAllFieldsHiddenNothingIsCopiedOrCut) {
+    TestEditor &editor = Open(2, 2);
+    SetClipboard("kept");
+    Select(editor, 0, 0, 1, 1);
+    editor.OnHideCols();
+    editor.OnCopy();
+    editor.OnCut(true);
+    editor.SelectRows(0, 1);
+    editor.OnCut(true);
+    EXPECT_EQ("kept", Clipboard());
+    EXPECT_EQ(2, m_source->GetNumRows());
+    EXPECT_EQ("", TestApp().TakeBoxes());
+}
+
+TEST_F(EditorClipboardTest, ARaggedPasteSelectsNoColumnThatIsNotThere) {
+    TestEditor &editor = Open(2, 2);
+    editor.GotoCell(1, 0);
+    CString text("a\r\nb\tc\td");
+    editor.Paste(text);
+    EXPECT_EQ("1,0..1,1", editor.Selection().substr(0, 8));
+}
+
+TEST_F(EditorClipboardTest, RowsOfTheGridThatCannotBeResetEndThePasteWithAMessage) {
+    class Shrinking : public RecordingSource {
+    public:
+        using RecordingSource::RecordingSource;
+        long GetNumRows() override { return m_answersRows ? RecordingSource::GetNumRows() : -1; }
+        int AppendRow() override {
+            m_answersRows = false;
+            return RecordingSource::AppendRow();
+        }
+        bool m_answersRows = true;
+    };
+    TestEditor &editor = Make();
+    auto *source = new Shrinking(&m_log, 2, 1, "src");
+    m_service.m_sources.push_back(source);
+    ASSERT_TRUE(editor.LoadData("table", nullptr, kEditNormal, ""));
+    Forget();
+    EXPECT_EQ("Could not reset number of grid rows!|16", PasteMessage(editor, "a\r\nb"));
+    EXPECT_EQ("Title(table,null) src.StartTransaction() src.AppendRow() src.EndTransaction()", m_log.Take());
+    source->m_answersRows = true;
 }
 
 } // namespace

@@ -279,4 +279,31 @@ TEST_F(EditorRowsTest, WithoutDepthTheQuestionIsNotAsked) {
     EXPECT_EQ(IDYES, Open(1, 1).DisplayNoUndoMessage());
 }
 
+TEST_F(EditorRowsTest, AnEmptyTableWithAColumnSelectedHasNothingToDelete) {
+    TestEditor &editor = Open(60, 0);
+    editor.SelectColumns(1, 1);
+    editor.OnDeleteRows(true);
+    EXPECT_EQ("", TestApp().TakeBoxes());
+    const std::string calls = m_log.Take();
+    EXPECT_EQ(std::string::npos, calls.find("Wait(1)")) << calls;
+    EXPECT_EQ("cur=(0,0) size=60x1", editor.State());
+}
+
+TEST_F(EditorRowsTest, ASelectionBeyondTheLastRowDeletesOnlyRowsThatAreThere) {
+    TestEditor &editor = Open(2, 4);
+    editor.ClearSelections();
+    editor.SelectRange(0, 2, 0, 9);
+    editor.OnDeleteRows(false);
+    EXPECT_EQ("0.0,0.1", Column());
+    EXPECT_EQ("", TestApp().TakeBoxes());
+}
+
+TEST_F(EditorRowsTest, AnAppendWithoutASourceIsSaidAndTheStepsGoOn) {
+    TestEditor &editor = Make();
+    m_host.TakeMessages();
+    editor.OnAppendRow(0);
+    EXPECT_EQ("Could not add record to data source!|16", TestApp().TakeBoxes());
+    EXPECT_EQ("1051(0,0)", m_host.TakeMessages());
+}
+
 } // namespace
