@@ -30,7 +30,7 @@ constexpr UINT kMsgTitleChanged = WM_USER + 25;   // wParam path, lParam table n
 constexpr UINT kMsgCommandsChanged = WM_USER + 27; // the state of commands may have changed
 constexpr WPARAM kHostCloseCommand = 57602;        // WM_COMMAND posted by Escape with nothing selected
 
-class ORVANE_API CEditorCore : public CUGOrvaneCtrlInterfaceLayer {
+class ORVANE_API CEditorCore : public CUGOrvaneCtrlInterfaceLayer, private CUGEditListener {
     DECLARE_DYNAMIC(CEditorCore)
 
 public:
@@ -38,7 +38,8 @@ public:
     ~CEditorCore() override;
 
     // --- Shared by all editors
-    // Called once by the host before the first editor is made. The host stays the caller's.
+    // Called once by the host before the first editor is made. The host stays the caller's. One that gives no editor
+    // options is refused with a message, and editors made without a host say so and refuse loads.
     static void Initialise(CVAppInterface *host);
     static CVAppInterface *GetAppInterface() { return ms_pAppInterface; }
     // All editors get the fonts or, with a message, none.
@@ -73,7 +74,7 @@ public:
     bool OnSaveAs(const CString &newPath, bool filtered, int filterNumber);
     bool IsDataSrcOpen() const { return m_bDataSrcOpen; }
     int GetEditMode() const { return m_nEditMode; }
-    void SetEditMode(int mode) { m_nEditMode = mode; }
+    void SetEditMode(int mode); // finishes an edit in progress first, under the old mode
     bool IsGridReadOnly() const { return m_nEditMode == kEditReadOnly; }
     void SetIsUsingBackupFile(bool backup) { m_bUsingBackupFile = backup; }
     void AutoSaveLayoutInfo(bool save) { m_bAutoSaveLayout = save; }
@@ -85,6 +86,8 @@ public:
     void UpdateTitle();
 
     // --- The table
+    // The editor's own open source; null, with a message on demand, when there is none or a host took it out of the
+    // grid's table of sources, which makes it the host's.
     CUGDataSource *GetCurrentDataSrc(bool complain);
     long GetNumberRows();
     int SetNumberRows(long rows, int redraw);
@@ -112,7 +115,8 @@ public:
     bool IsFieldHidden(const char *name);
     bool CanHideCols();
     int GetColumnCellType(int gridCol);
-    // These four rebuild the grid's columns. When memory runs out they say so and the view stays as it was.
+    // These four rebuild the grid's columns. An edit in progress is finished first, and the selection, which names grid
+    // columns, goes. When memory runs out they say so and the view stays as it was.
     void DisplayCols(const CUIntArray &fields);
     void ReOrderCols(const CUIntArray &fields); // the layout's order too; for the host's field dialog
     void HideCols(const CUIntArray &gridCols);
@@ -126,6 +130,9 @@ public:
     bool OnCellEdit(int col, long row, CEdit *edit, const char *oldText, const char *newText);
     bool AddEditCommand(int col, long row, CEdit *edit, const char *oldText, const char *newText);
     void SaveEditContents();
+    // Leaves no edit in progress: what was typed is written into its cell as SaveEditContents does, an untouched box
+    // goes unwritten. Called before columns, rows or records change under the box.
+    void SettleEdit();
     void OnEditNotify();
     void StartTransaction();
     void EndTransaction();
@@ -238,6 +245,7 @@ protected:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
 
+    static void ReportOutOfMemory();
     // True when a stored layout for the table is at hand. Reading makes the layout file where there is none.
     bool Serialize(bool store);
     void Serialize(CArchive &ar) override;
@@ -246,6 +254,9 @@ protected:
     // Whole columns or rows, and the mode that goes with them.
     void SelectColumns(int firstCol, int lastCol);
     void SelectRows(long firstRow, long lastRow);
+    // The first columns also stand in the side heading. As many as there are of `count`; the side heading's width is the
+    // caller's.
+    void LockColumns(int count);
     // Cells across the first line and rows of the text on the clipboard; a line break at the end counts a row.
     bool GetClipBoardDataInfo(int *cols, long *rows);
 
@@ -288,6 +299,7 @@ protected:
 private:
     friend class CEditCommandGuard;
     friend class CEditorLayout;
+    friend class CFrozenWidthScope;
 
     void MakeParts();
     void DeleteParts();
@@ -299,6 +311,14 @@ private:
     void AbandonLoad();
     void PumpDroppingClicks();
     void DropSource();
+    void LeaveTable();
+    void GoToFirstCell();
+    void ForgetHeadingSelection();
+    void EditTextChanged() override;
+    void EditWritten() override;
+    bool IsEditTyped();
+    int FrozenSpan();
+    void FitSideHeading(int ownWidth);
     long RowsOfSource(CUGDataSource *source) const;
     long LastRowIndex();
     bool SaveUnderNewPath(CUGDataSource *source, const CString &newPath, const CString &options);
@@ -307,12 +327,14 @@ private:
     void ShowOrder(const CUIntArray &fields);
     void ShowWithout(const CUIntArray &gridCols);
     void ShowWith(const CUIntArray &gridCols, const CUIntArray &fields);
+    bool SelectedBlock(int *left, long *top, int *right, long *bottom);
     bool CollectSelectedCols(CUIntArray &cols);
     void FieldsOfNames(const CStringArray &names, CUIntArray &fields);
     void KeepCommand(std::unique_ptr<CCommand> command);
     template <class Make> void RecordSizing(Make make);
     void SetColWidths(const MultiSizingCommand &command, const CArray<int, int> &widths);
-    void SetHeadings(int sideWidth, int topHeight);
+    void SetHeadings(const HeadingsCommand &command, int sideWidth, int topHeight);
+    void SizeColumn(int col, int width);
     int HeadingCharWidth();
     bool IsValidatingColumn(int col);
     int FittedWidth(int col);
@@ -335,6 +357,7 @@ private:
     bool PlacePaste(PasteBlock *block);
     bool MakeRoomForPaste(CUGDataSource *source, const PasteBlock &block);
     bool AddMissingRecords(CUGDataSource *source, const PasteBlock &block);
+    void DragHeadingSelection();
     void HeadingSelectionKey(UINT *key, bool shift, bool control);
     void ExtendHeadingSelection(int step);
     void DoAutoScroll(POINT point);
@@ -350,5 +373,10 @@ private:
     void TabInGrid(bool shift);
     void NotifyEdited();
     void PostCommandsChanged();
-    static void ReportOutOfMemory();
+    int ShownColumnFrom(int col, int step);
+
+    CUGDataSource *m_pSource = nullptr; // owned while it is in the slot m_nDataSrcIndex of the grid's table
+    int m_nColsToLock = 0;              // asked for; there may be fewer columns
+    bool m_bSavingEdit = false;         // SaveEditContents tells the title itself
+    bool m_bTitleAwaitsWrite = false;   // the edit being finished changes its cell
 };

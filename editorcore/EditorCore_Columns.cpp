@@ -1,6 +1,7 @@
 // The view of the columns: which fields are shown, and in which order. It changes nothing in the data. The order
 // stands in the layout and, as column translations, in the grid; the two agree after every change.
 #include "editorcore/EditorCore.h"
+#include "editorcore/FrozenWidthScope.h"
 #include "editorcore/MemoryGuard.h"
 #include "grid/PaintingScope.h"
 
@@ -82,6 +83,7 @@ void CEditorCore::ShowFields(const CUIntArray &fields) {
         return;
     {
         CPaintingScope quiet(this);
+        const CFrozenWidthScope keepingStep(this);
         CUIntArray widths;
         m_pLayout->GetColWidths(widths);
         const int count = static_cast<int>(fields.GetSize());
@@ -92,11 +94,12 @@ void CEditorCore::ShowFields(const CUIntArray &fields) {
             source->GetColName(field, &name);
             QuickSetText(col, -1, name);
             SetColTranslation(col, field);
-            if (field < widths.GetSize())
+            if (field >= 0 && field < widths.GetSize())
                 SetColWidth(col, static_cast<int>(widths.GetAt(field)));
         }
         m_pColCellTypes->Apply();
         SetTextAlignment();
+        CancelSelectionMode(true); // it names columns that show other fields now
     }
     PostCommandsChanged();
 }
@@ -105,6 +108,7 @@ void CEditorCore::ShowFields(const CUIntArray &fields) {
 template <class Change> bool CEditorCore::ChangeView(Change change) {
     CUIntArray shown, positions;
     const bool changed = RunInMemory([&] {
+        SettleEdit();
         m_pLayout->GetDisplayCols(shown);
         m_pLayout->GetColPositions(positions);
         change();
@@ -162,6 +166,7 @@ void CEditorCore::UnHideCols(const CUIntArray &gridCols, const CUIntArray &field
 }
 
 void CEditorCore::ResetFieldsOrder() {
+    SettleEdit();
     for (int col = 0; col < GetNumberCols(); ++col)
         SetColTranslation(col, col);
     m_pColCellTypes->Apply();
@@ -179,11 +184,12 @@ void CEditorCore::OnColReorder() {}
 bool CEditorCore::CollectSelectedCols(CUIntArray &cols) {
     int first, last;
     long top, bottom;
-    if (GetCurrentSelection(&first, &top, &last, &bottom) != GRID_SUCCESS) {
+    if (GetCurrentSelection(&first, &top, &last, &bottom) != GRID_SUCCESS)
         first = last = GetCurrentCol();
-        if (first < 0 || first >= GetNumberCols())
-            return false;
-    }
+    first = std::max(first, 0);
+    last = std::min(last, GetNumberCols() - 1);
+    if (first > last)
+        return false;
     for (int col = first; col <= last; ++col)
         cols.Add(static_cast<UINT>(col));
     return true;
@@ -208,10 +214,8 @@ void CEditorCore::OnHideCols() {
         AfxMessageBox("Low memory - cannot carry out operation!", MB_ICONHAND, 0);
         return;
     }
-    if (cols.GetSize() == 0)
-        return;
-    CancelSelectionMode(true);
-    PostCommandsChanged();
+    if (cols.GetSize() > 0)
+        PostCommandsChanged();
 }
 
 // Takes the command into the history; without depth there is none to keep it.

@@ -1,5 +1,8 @@
 // One edit, from the opening of the box to the boundary in the source's undo.
 #include "editorcore/EditorCore.h"
+#include "editorcore/ValueScope.h"
+
+#include <utility>
 
 int CEditorCore::OnEditStart(int col, long, CEdit *edit) {
     if (IsGridReadOnly())
@@ -43,6 +46,8 @@ int CEditorCore::OnEditContinue(int oldCol, long oldRow, int *newCol, long *newR
 int CEditorCore::OnEditFinish(int col, long row, CEdit *edit) {
     if (m_nEditMode == kEditVerify)
         VarifyEdit(edit, col, row);
+    if (GetEditControl() == nullptr)
+        return 0;
     return OnCellEdit(col, row, edit, nullptr, nullptr) ? 1 : 0;
 }
 
@@ -58,11 +63,12 @@ void CEditorCore::VarifyEdit(CWnd *edit, int col, long row) {
     CString question;
     question.Format("Original = %s, New = %s - Substitute?", static_cast<const char *>(stored),
                     static_cast<const char *>(typed));
-    const int before = m_GI.m_suppressFinish; // the box takes the focus, and that must not end the edit
-    SetSuppressFinishOnFocusLoss(1);
-    const int answer = AfxMessageBox(question, MB_YESNO | MB_ICONQUESTION, 0);
-    SetSuppressFinishOnFocusLoss(before);
-    if (answer == IDNO)
+    int answer;
+    {
+        const CValueScope staying(&m_GI.m_suppressFinish, 1); // the question takes the focus, which must not end the edit
+        answer = AfxMessageBox(question, MB_YESNO | MB_ICONQUESTION, 0);
+    }
+    if (answer != IDYES && GetEditControl() != nullptr) // what ran meanwhile may have ended the edit
         edit->SetWindowText(stored);
 }
 
@@ -100,20 +106,54 @@ bool CEditorCore::AddEditCommand(int col, long row, CEdit *edit, const char *old
         StartTransaction();
         EndTransaction();
         NotifyEdited();
+        m_bTitleAwaitsWrite = true;
     }
     return true;
+}
+
+// A source may refuse the text: the title is told again by what the write has left.
+void CEditorCore::EditWritten() {
+    if (std::exchange(m_bTitleAwaitsWrite, false) && !m_bSavingEdit)
+        UpdateTitle();
+}
+
+// Typing after an undo in the box takes the place of what was undone there.
+void CEditorCore::EditTextChanged() {
+    m_bEditUndone = false;
+}
+
+void CEditorCore::SetEditMode(int mode) {
+    SettleEdit();
+    m_nEditMode = mode;
+}
+
+// Does the box hold a text that its cell was not given yet?
+bool CEditorCore::IsEditTyped() {
+    CEdit *edit = GetEditControl();
+    if (edit == nullptr || m_grid.m_edit.m_written)
+        return false;
+    CString typed;
+    edit->GetWindowText(typed);
+    CUGCell cell;
+    GetCell(m_GI.m_editCol, m_GI.m_editRow, &cell);
+    return typed != cell.GetText();
+}
+
+void CEditorCore::SettleEdit() {
+    if (IsEditTyped())
+        SaveEditContents();
+    CancelEdit(); // untouched, or a question keeps the box open
 }
 
 void CEditorCore::SaveEditContents() {
     CEdit *edit = GetEditControl();
     if (edit == nullptr)
         return;
-    CString typed;
-    edit->GetWindowText(typed);
-    CUGCell cell;
-    GetCell(GetCurrentCol(), GetCurrentRow(), &cell);
-    const bool differs = typed != cell.GetText();
-    edit->SendMessage(WM_KILLFOCUS, 0, 0);
+    const bool differs = IsEditTyped();
+    {
+        const CValueScope saving(&m_bSavingEdit, true);
+        edit->SendMessage(WM_KILLFOCUS, 0, 0);
+    }
     if (differs)
         NotifyEdited();
 }

@@ -1,5 +1,7 @@
 // The editor's life: settings shared by all, construction, set-up and destruction.
 #include "editorcore/EditorCore.h"
+#include "editorcore/QuietAppInterface.h"
+#include "editorcore/QuietEditorOptions.h"
 
 #include "lookup/LookupTableFile.h"
 #include "lookup/LookupOptionsMgr.h"
@@ -16,6 +18,20 @@ namespace {
 
 constexpr COLORREF kGridLineColour = 0xC0C0C0;
 
+// Stands in where no host was given, so that nothing has to ask for one.
+class CNoHost : public CQuietAppInterface {
+public:
+    CVEditorOptions *GetEditorOptions() override { return &m_options; }
+
+private:
+    CQuietEditorOptions m_options;
+};
+
+CVAppInterface *NoHost() {
+    static CNoHost host;
+    return &host;
+}
+
 } // namespace
 
 CVAppInterface *CEditorCore::ms_pAppInterface = nullptr;
@@ -29,10 +45,14 @@ CFont *CEditorCore::ms_pHeadingFont = nullptr;
 CArray<CEditorCore *, CEditorCore *> CEditorCore::m_InstanceList;
 
 void CEditorCore::Initialise(CVAppInterface *host) {
-    ms_bInitCalled = true;
-    ms_pAppInterface = host;
+    CVEditorOptions *options = host != nullptr ? host->GetEditorOptions() : nullptr;
+    ms_bInitCalled = options != nullptr;
+    ms_pAppInterface = ms_bInitCalled ? host : NoHost();
+    if (!ms_bInitCalled) {
+        AfxMessageBox("The host gives no editor options: no editor can be used.", MB_ICONHAND, 0);
+        return;
+    }
     CLookupTableFile::SetAppInterface(host);
-    CVEditorOptions *options = host->GetEditorOptions();
     options->GetCellFont(&ms_lfCellFont);
     options->GetHeadingFont(&ms_lfHeadingFont);
     ms_nMaxDisplayColWidth = options->GetMaxDisplayColWidth();
@@ -42,7 +62,8 @@ void CEditorCore::Initialise(CVAppInterface *host) {
 
 void CEditorCore::SetEnterKey(bool isTab) {
     ms_bEnterKeyIsTab = isTab;
-    ms_pAppInterface->GetEditorOptions()->SetEnterKeyTab(isTab);
+    if (ms_bInitCalled)
+        ms_pAppInterface->GetEditorOptions()->SetEnterKeyTab(isTab);
 }
 
 bool CEditorCore::ToggleEnterKey() {
@@ -51,6 +72,14 @@ bool CEditorCore::ToggleEnterKey() {
 }
 
 CEditorCore::CEditorCore() {
+    m_grid.m_edit.m_listener = this;
+    if (!ms_bInitCalled) {
+        ms_pAppInterface = NoHost();
+        AfxMessageBox("The editor cannot be used: CEditorCore::Initialise was not called with a host that gives editor "
+                      "options.",
+                      MB_ICONHAND, 0);
+        m_bConstructFailed = true;
+    }
     try {
         MakeParts();
     } catch (CMemoryException *e) {
@@ -107,17 +136,15 @@ CEditorCore::~CEditorCore() {
 
 // The source goes without being asked: nobody is left who could heed a refusal.
 void CEditorCore::DropSource() {
-    if (m_nDataSrcIndex == -1)
-        return;
-    CUGDataSource *source = GetDataSource(m_nDataSrcIndex);
-    if (source != nullptr && source != GetDataSource(0)) {
+    if (CUGDataSource *source = GetCurrentDataSrc(false)) {
         if (m_bDataSrcOpen)
             source->Close(false);
-        m_bDataSrcOpen = false;
         RemoveDataSource(m_nDataSrcIndex);
         m_GI.m_currentSource = 0;
         delete source;
     }
+    m_bDataSrcOpen = false;
+    m_pSource = nullptr;
     m_nDataSrcIndex = -1;
 }
 

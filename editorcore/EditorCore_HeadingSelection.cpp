@@ -44,12 +44,20 @@ void CEditorCore::CancelSelectionMode(bool clear) {
 
 // --- Clicks
 
+// The mouse goes from the pressed heading to the editor, unless a question that came up meanwhile has taken it: the
+// button may be up by now.
+void CEditorCore::DragHeadingSelection() {
+    const CWnd *holder = CWnd::GetCapture();
+    if (holder == &m_topHdg || holder == &m_sideHdg)
+        SetCapture();
+}
+
 void CEditorCore::OnTH_LClicked(int col, int updn) {
     if (updn == 0 || col < 0)
         return;
     if (IsInEditMode())
         SaveEditContents();
-    SetCapture();
+    DragHeadingSelection();
     if (col != GetCurrentCol())
         GotoCell(col, GetCurrentRow());
     ClearSelections();
@@ -68,7 +76,7 @@ void CEditorCore::OnSH_LClicked(long row, int updn) {
         return;
     if (IsInEditMode())
         SaveEditContents();
-    SetCapture();
+    DragHeadingSelection();
     ClearSelections();
     if (m_nHeadingSelectMode == kRows && IsDown(VK_SHIFT)) {
         SelectRows(m_nSelectAnchorRow, row);
@@ -88,8 +96,8 @@ void CEditorCore::OnCB_LClicked(int updn) {
         return;
     if (IsInEditMode())
         SaveEditContents();
+    ForgetHeadingSelection();
     EnableMultiSelect(0);
-    ClearSelections();
     GotoCell(0, 0);
     EnableMultiSelect(1);
     SelectRange(0, 0, GetNumberCols() - 1, LastRowIndex());
@@ -99,8 +107,10 @@ void CEditorCore::OnCB_LClicked(int updn) {
 // --- Dragging
 
 // Along the selection's axis the point is reckoned in the cells' coordinates, across it as it comes.
-void CEditorCore::OnMouseMove(UINT, CPoint point) {
-    if (m_nHeadingSelectMode == kNoSelection)
+void CEditorCore::OnMouseMove(UINT flags, CPoint point) {
+    if (!(flags & MK_LBUTTON) && CWnd::GetCapture() == this)
+        ::ReleaseCapture(); // the release went to another window
+    if (m_nHeadingSelectMode == kNoSelection || !(flags & MK_LBUTTON))
         return;
     const bool columns = m_nHeadingSelectMode == kColumns;
     point.Offset(columns ? -GetSH_Width() : 0, columns ? 0 : -GetTH_Height());

@@ -13,11 +13,12 @@ bool CanEditBoxUndo(CEdit *edit) {
 void CEditorCore::Undo() {
     CEdit *edit = GetEditControl();
     if (CanEditBoxUndo(edit) && !m_bEditUndone) {
-        m_bEditUndone = true;
         edit->SendMessage(EM_UNDO, 0, 0);
+        m_bEditUndone = true; // after the change of the text, which clears it
         UpdateTitle();
         return;
     }
+    SettleEdit(); // the box's cell may show another field or record in a moment
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (m_pCommandList != nullptr && m_pCommandList->CanUndo()) {
         m_pCommandList->Undo(true);
@@ -36,6 +37,7 @@ void CEditorCore::Redo() {
         UpdateTitle();
         return;
     }
+    SettleEdit();
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (m_pCommandList != nullptr && m_pCommandList->CanRedo()) {
         m_pCommandList->Redo();

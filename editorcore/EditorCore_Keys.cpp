@@ -1,6 +1,8 @@
 // Keys that reach the grid with no edit box open, and clicks in the cells.
 #include "editorcore/EditorCore.h"
+#include "grid/PaintingScope.h"
 
+#include <algorithm>
 #include <cctype>
 
 namespace {
@@ -20,17 +22,15 @@ constexpr UINT kNoKey = static_cast<UINT>(-1); // what a key becomes that must a
 
 void CEditorCore::TabInGrid(bool shift) {
     const int col = GetCurrentCol();
-    const int lastCol = GetNumberCols() - 1;
     const long row = GetCurrentRow();
-    if (shift) {
-        if (col > 0)
-            GotoCell(col - 1, row);
-        else if (row > 0)
-            GotoCell(lastCol, row - 1);
+    const int next = ShownColumnFrom(col + (shift ? -1 : 1), shift ? -1 : 1);
+    if (next >= 0) {
+        GotoCell(next, row);
         return;
     }
-    if (col != lastCol) {
-        GotoCell(col + 1, row);
+    if (shift) {
+        if (row > 0)
+            GotoCell(std::max(ShownColumnFrom(GetNumberCols() - 1, -1), 0), row - 1);
         return;
     }
     const long lastRow = LastRowIndex();
@@ -39,21 +39,33 @@ void CEditorCore::TabInGrid(bool shift) {
         OnAppendRow(col);
         OnAppendRow(0);
     } else if (row != lastRow) {
-        GotoCell(0, row + 1);
+        GotoCell(std::max(ShownColumnFrom(0, 1), 0), row + 1);
     } else {
         OnAppendRow(0);
     }
 }
 
+// The first column from `col` on, in steps of 1 or -1, that has a width; -1 when there is none.
+int CEditorCore::ShownColumnFrom(int col, int step) {
+    for (int width = 0; GetColWidth(col, &width) == GRID_SUCCESS; col += step) {
+        if (width > 0)
+            return col;
+    }
+    return -1;
+}
+
 void CEditorCore::OnCharDown(UINT *key, int processed) {
+    // The arrows' numbers are those of "(" and "&": what comes as a character is one.
+    const bool typed = CWnd::GetCurrentMessage()->message == WM_CHAR && *key != VK_RETURN;
     if (*key == VK_RETURN)
         *key = ms_bEnterKeyIsTab ? VK_TAB : VK_DOWN;
     if (*key == VK_TAB) {
         TabInGrid(IsDown(VK_SHIFT));
         return;
     }
+    const bool arrow = !typed && (*key == VK_DOWN || *key == VK_UP);
     const bool fromKeyboard = *key == VK_BACK || IsPrintable(*key);
-    if (*key == VK_DOWN || *key == VK_UP || !fromKeyboard || processed == 0)
+    if (arrow || !fromKeyboard || processed == 0)
         return;
     if (IsInMultipleSelection())
         ClearSelections();
@@ -122,14 +134,10 @@ void CEditorCore::OnLClicked(int col, long row, int updn, RECT *, POINT *, int) 
         ClearSelections();
         RedrawAll();
     } else if (updn != 0 && col >= 0 && row >= 0) {
-        int left, right;
-        long top, bottom;
-        if (GetCurrentSelection(&left, &top, &right, &bottom) == GRID_SUCCESS) {
-            EnablePainting(0);
-            ClearSelections();
-            SelectRange(left, top, col, row);
-            EnablePainting(1);
-        }
+        const CUGSelectionList::Block anchored = m_GI.m_selection.GetBlocks().back();
+        CPaintingScope quiet(this);
+        ClearSelections();
+        SelectRange(anchored.startCol, anchored.startRow, col, row);
     }
     if (m_nHeadingSelectMode != 0)
         CancelSelectionMode(true);

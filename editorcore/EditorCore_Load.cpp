@@ -1,6 +1,8 @@
 // Opening a table and closing it.
 #include "editorcore/EditorCore.h"
+#include "editorcore/FrozenWidthScope.h"
 #include "editorcore/MemoryGuard.h"
+#include "grid/PaintingScope.h"
 
 // A source that is open, or null: the source itself has said why.
 std::unique_ptr<CUGDataSource> CEditorCore::OpenSource(const char *path, const char *table, const char *options) {
@@ -32,9 +34,9 @@ std::unique_ptr<CUGDataSource> CEditorCore::OpenSource(const char *path, const c
 }
 
 bool CEditorCore::LoadData(const char *path, const char *table, int editMode, const char *options) {
-    m_nEditMode = editMode;
     bool opened = false;
     const bool inMemory = RunInMemory([&] {
+        SetEditMode(editMode);
         opened = OpenTable(path, table, options);
         if (opened)
             ShowTable(path, table);
@@ -53,9 +55,15 @@ bool CEditorCore::OpenTable(const char *path, const char *table, const char *opt
     int writable = 0, unused = 0;
     if (source->GetOption(UGSRC_WRITABLE, &writable, &unused) == GRID_SUCCESS && writable == 0)
         m_nEditMode = kEditReadOnly;
-    SetCapture(); // the mouse stays with the grid while the table comes up
     m_nDataSrcIndex = AddDataSource(source.get());
-    source.release();
+    if (GetDataSource(m_nDataSrcIndex) != source.get()) { // hosts lend sources to the grid too: no slot is free
+        m_nDataSrcIndex = -1;
+        source->Close(false);
+        GetCurrentDataSrc(true);
+        return false;
+    }
+    SetCapture(); // the mouse stays with the grid while the table comes up
+    m_pSource = source.release();
     m_bDataSrcOpen = true;
     SetDefaultDataSource(m_nDataSrcIndex);
     return true;
@@ -70,12 +78,27 @@ void CEditorCore::ShowTable(const char *path, const char *table) {
     EmptyUndoList();
     PumpDroppingClicks();
     ::ReleaseCapture();
-    GotoCell(0, 0);
+    GoToFirstCell();
     RedrawAll();
     SetCustomOptions();
     SetTextAlignment();
     SetFocus();
     PostCommandsChanged();
+}
+
+// Told as a change from nowhere, for the cell of the same numbers was another table's. Nothing else is selected.
+void CEditorCore::GoToFirstCell() {
+    ForgetHeadingSelection();
+    m_GI.m_cols.m_last = m_GI.m_rows.m_last = -1;
+    if (GetCurrentCol() != 0 || GetCurrentRow() != 0)
+        GotoCell(0, 0);
+    UpdateState();
+}
+
+void CEditorCore::ForgetHeadingSelection() {
+    ClearSelections();
+    CancelSelectionMode(false);
+    m_nLastAutoScrollCol = m_nLastAutoScrollRow = -10;
 }
 
 // Memory ran out while the table came up: back to an editor with nothing open.
@@ -91,7 +114,6 @@ void CEditorCore::AbandonLoad() {
         SetNumberCols(0);
     });
     DropSource();
-    EnablePainting(1);
 }
 
 // Clicks made while the table was loading never reach the grid.
@@ -112,25 +134,39 @@ bool CEditorCore::CloseDataSource(bool argument) {
     if (GetEditControl() != nullptr)
         SaveEditContents();
     CUGDataSource *source = GetCurrentDataSrc(false);
-    if (source == nullptr)
-        return true;
-    if (!m_bUsingBackupFile)
+    if (source != nullptr && !m_bUsingBackupFile)
         source->Save();
-    if (source->Close(argument) != GRID_SUCCESS)
+    if (source != nullptr && source->Close(argument) != GRID_SUCCESS)
         return false;
-    m_bDataSrcOpen = false;
-    Serialize(true);
-    CUGCtrl::SetNumberRows(0, 0);
-    SetNumberCols(0);
-    m_GI.m_currentSource = 0;
-    RemoveDataSource(m_nDataSrcIndex);
-    delete source;
-    m_nDataSrcIndex = -1;
+    LeaveTable();
     return true;
 }
 
+// The source has been closed, or a host has taken it.
+void CEditorCore::LeaveTable() {
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    m_bDataSrcOpen = false;
+    Serialize(true);
+    ForgetHeadingSelection();
+    {
+        const CFrozenWidthScope keepingStep(this);
+        m_nColsToLock = 0;
+        CUGCtrl::SetNumberRows(0, 0);
+        SetNumberCols(0);
+    }
+    if (source != nullptr) {
+        m_GI.m_currentSource = 0;
+        RemoveDataSource(m_nDataSrcIndex);
+        delete source;
+    }
+    m_pSource = nullptr;
+    m_nDataSrcIndex = -1;
+}
+
 CUGDataSource *CEditorCore::GetCurrentDataSrc(bool complain) {
-    CUGDataSource *source = m_nDataSrcIndex < 0 ? nullptr : GetDataSource(m_nDataSrcIndex);
+    // An empty slot answers with the grid's own store, and another source may be in it by now.
+    CUGDataSource *source =
+        m_pSource != nullptr && GetDataSource(m_nDataSrcIndex) == m_pSource ? m_pSource : nullptr;
     if (source == nullptr && complain)
         AfxMessageBox("Could not get data source!", MB_ICONHAND, 0);
     return source;
@@ -179,8 +215,8 @@ void CEditorCore::OnDataSourceNotify(int, long what, long) {
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (what != 1 || source == nullptr)
         return;
-    EnablePainting(0);
+    CancelEdit(); // another record may be where it was begun
+    CPaintingScope quiet(this);
     CUGCtrl::SetNumberRows(RowsOfSource(source), 0);
     EmptyUndoList();
-    EnablePainting(1);
 }

@@ -1,6 +1,7 @@
 // Saving, saving under another name, and telling the host what is open.
 #include "editorcore/EditorCore.h"
 #include "editorcore/MemoryGuard.h"
+#include "grid/PaintingScope.h"
 
 #include <mbstring.h>
 
@@ -53,14 +54,8 @@ CEditorCore *CEditorCore::GetOpenFilesGrid(const char *path) {
 }
 
 bool CEditorCore::IsFileModified() {
-    if (CEdit *edit = GetEditControl()) {
-        CString typed;
-        edit->GetWindowText(typed);
-        CUGCell cell;
-        GetCell(GetCurrentCol(), GetCurrentRow(), &cell);
-        if (typed != cell.GetText())
-            return true;
-    }
+    if (IsEditTyped())
+        return true;
     CUGDataSource *source = m_bDataSrcOpen ? GetCurrentDataSrc(false) : nullptr;
     return source != nullptr && source->CanUndo();
 }
@@ -106,12 +101,15 @@ bool CEditorCore::OnSaveAs(const CString &newPath, bool filtered, int filterNumb
     }
     if (FileExists(newPath)) {
         text.Format("The file '%s' already exists!\nOverwrite?", static_cast<const char *>(newPath));
-        if (AfxMessageBox(text, MB_YESNO | MB_ICONQUESTION, 0) == IDNO)
+        if (AfxMessageBox(text, MB_YESNO | MB_ICONQUESTION, 0) != IDYES)
             return false;
     }
-    // What is in memory is what stands on disk, for the working copy is gone once it was written.
+    // The working copy is gone once it was written, so it is read back. A file of several tables cannot be: then it
+    // stays as it was.
+    const CTableInfo kept = m_pLayout->GetWorkingCopy();
     Serialize(true);
-    Serialize(false);
+    if (!Serialize(false))
+        m_pLayout->SetWorkingCopy(kept);
     CString layout(newPath);
     GetLayoutFileName(layout);
     if (FileExists(layout)) {
@@ -128,17 +126,17 @@ bool CEditorCore::OnSaveAs(const CString &newPath, bool filtered, int filterNumb
 }
 
 bool CEditorCore::SaveUnderNewPath(CUGDataSource *source, const CString &newPath, const CString &options) {
-    EnablePainting(0);
-    if (source->SaveAs(newPath, options) != GRID_SUCCESS) {
-        CString text;
-        text.Format("Could not save %s!", static_cast<const char *>(newPath));
-        AfxMessageBox(text, MB_ICONHAND, 0);
-        EnablePainting(1);
-        return false;
+    {
+        CPaintingScope quiet(this);
+        if (source->SaveAs(newPath, options) != GRID_SUCCESS) {
+            CString text;
+            text.Format("Could not save %s!", static_cast<const char *>(newPath));
+            AfxMessageBox(text, MB_ICONHAND, 0);
+            return false;
+        }
+        m_strFilePath = newPath;
+        CUGCtrl::SetNumberRows(RowsOfSource(source), 1);
     }
-    m_strFilePath = newPath;
-    CUGCtrl::SetNumberRows(RowsOfSource(source), 1);
-    EnablePainting(1);
     UpdateTitle();
     RedrawAll();
     return true;

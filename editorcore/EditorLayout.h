@@ -23,6 +23,8 @@ public:
     // Takes sizes, and columns numbered from 0, over from the grid.
     void CaptureFromGrid();
     void Reset();
+    const CTableInfo &GetWorkingCopy() const { return m_TableInfo; }
+    void SetWorkingCopy(const CTableInfo &info) { m_TableInfo = info; }
 
     void SetTableName(const char *name) { m_strTableName = name; }
     bool IsTableFound() const { return m_bTableFound; }

@@ -240,6 +240,8 @@ public:
     int StartEdit();
     int StartEdit(int key);
     int EditContinue(int dx, int dy);
+    // Ends the edit in progress with nothing written; the cells get the focus that the edit box had.
+    void CancelEdit();
     CEdit *GetEditControl();
 
     // --- Cell types. Added types are borrowed.

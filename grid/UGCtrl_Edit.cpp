@@ -16,6 +16,15 @@ void CUGCtrl::DestroyEdit() {
     }
 }
 
+void CUGCtrl::CancelEdit() {
+    if (m_grid.m_edit.GetSafeHwnd() == nullptr)
+        return;
+    const bool hadFocus = ::GetFocus() == m_grid.m_edit.m_hWnd;
+    DestroyEdit();
+    if (hadFocus)
+        m_grid.SetFocus();
+}
+
 int CUGCtrl::StartEdit() {
     return StartEdit(0);
 }

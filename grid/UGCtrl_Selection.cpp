@@ -17,6 +17,8 @@ void CUGCtrl::UpdateSelection() {
     const bool shift = IsDown(VK_SHIFT) && (type == UG_MOVED_BY_KEY || type == UG_MOVED_BY_CLICK);
     if (type == UG_MOVED_BY_DRAG || shift) {
         m_grid.InvalidateSelection();
+        if (list.IsEmpty()) // an edit has used the block up: it begins again where the move does
+            list.StartBlock(static_cast<int>(m_GI.m_cols.m_last), m_GI.m_rows.m_last);
         if (list.ExtendBlock(col, row) != GRID_SUCCESS)
             list.StartBlock(col, row);
         m_grid.InvalidateSelection();

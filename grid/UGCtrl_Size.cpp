@@ -121,12 +121,8 @@ void CUGCtrl::HoldLeadingInRange() {
 // that a type could act on.
 void CUGCtrl::LeaveLostCells() {
     if (GetEditControl() != nullptr &&
-        (!m_GI.m_cols.Contains(m_GI.m_editCol) || !m_GI.m_rows.Contains(m_GI.m_editRow))) {
-        const bool hadFocus = ::GetFocus() == m_grid.m_edit.m_hWnd;
-        DestroyEdit();
-        if (hadFocus)
-            m_grid.SetFocus();
-    }
+        (!m_GI.m_cols.Contains(m_GI.m_editCol) || !m_GI.m_rows.Contains(m_GI.m_editRow)))
+        CancelEdit();
     if (m_GI.m_cols.m_count == 0 || m_GI.m_rows.m_count == 0)
         FocusedType();
 }

@@ -20,6 +20,7 @@ bool CUGEdit::Open(DWORD style, const RECT &rect, CUGGrid *grid, const CUGCell &
     m_ctrl = grid->m_ctrl;
     m_active = false;
     m_focusSeen = false;
+    m_written = false;
     m_mask.Set(nullptr);
     if (!Create(style, rect, grid, kEditChildId))
         return false;
@@ -67,6 +68,9 @@ int CUGEdit::Finish() {
     cell.SetText(text);
     m_ctrl->SetCell(col, row, &cell);
     m_ctrl->RedrawCell(col, row); // what the box does not cover, and where else a locked column shows
+    m_written = true;
+    if (m_listener != nullptr)
+        m_listener->EditWritten();
     return 1;
 }
 
@@ -168,6 +172,9 @@ UINT CUGEdit::OnGetDlgCode() {
 }
 
 void CUGEdit::OnUpdateText() {
+    m_written = false;
+    if (m_listener != nullptr)
+        m_listener->EditTextChanged();
     if (m_mask.IsOn() && !m_maskBusy)
         Reformat();
 }

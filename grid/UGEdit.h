@@ -11,6 +11,16 @@ class CUGCell;
 class CUGCtrl;
 class CUGGrid;
 
+// What the owner of an edit may want to know beside the notifications of the control.
+class CUGEditListener {
+public:
+    virtual void EditTextChanged() = 0; // by whatever way
+    virtual void EditWritten() = 0;     // the cell has been written, or has refused the text
+
+protected:
+    ~CUGEditListener() = default;
+};
+
 class ORVANE_API CUGEdit : public CEdit {
     DECLARE_DYNAMIC(CUGEdit)
 
@@ -21,6 +31,8 @@ public:
     void Show(int key);
 
     bool m_active = false; // a finish is still owed
+    bool m_written = false; // the text was handed to the cell as it is
+    CUGEditListener *m_listener = nullptr; // borrowed
     CPoint m_inset;        // from the cell's corner to the box, pixels
 
 private:

@@ -302,4 +302,31 @@ TEST_F(EditorValidatingTest, AnInvalidTextPastTheGridIsWrittenBeforeItIsChecked)
     EXPECT_EQ("src.SetCell(1,1,bad)", m_log.Take());
 }
 
+TEST_F(EditorColumnsTest, ASelectionPastTheLastColumnHidesOnlyColumnsThatAreThere) {
+    TestEditor &editor = Open(3, 3);
+    Select(editor, 1, 7);
+    editor.OnHideCols();
+    EXPECT_EQ("0 of 0,1,2", editor.Order());
+    editor.Undo();
+    EXPECT_EQ("0,1,2 of 0,1,2", editor.Order());
+    editor.Redo();
+    EXPECT_EQ("0 of 0,1,2", editor.Order());
+}
+
+TEST_F(EditorColumnsTest, ASelectionGoesWithTheColumnsThatTheHostsDialogHides) {
+    TestEditor &editor = Open(4, 3);
+    Select(editor, 2, 3);
+    m_service.m_onVisibility = [&](CStringArray &, CArray<bool, bool> &) {
+        CUIntArray fields;
+        Fill(fields, {0, 1});
+        editor.ReOrderCols(fields);
+    };
+    editor.OnUnHideCols();
+    EXPECT_FALSE(editor.IsInMultipleSelection());
+    editor.OnHideCols();
+    editor.Undo();
+    editor.Undo();
+    EXPECT_EQ("0,1,2,3 of 0,1,2,3", editor.Order());
+}
+
 } // namespace

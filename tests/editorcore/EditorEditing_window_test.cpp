@@ -151,7 +151,7 @@ TEST_F(EditorEditingTest, TheFirstRecordOfAnEmptyTableIsMadeByTheEdit) {
     Type(editor, "x");
     m_host.SetFocus();
     EXPECT_EQ("src.AppendRow() src.StartTransaction() src.EndTransaction() Title(table,null) "
-              "src.SetCell(0,0,x)",
+              "src.SetCell(0,0,x) Title(table,null)",
               m_log.Take());
     EXPECT_EQ("x", m_source->Text(0, 0));
     EXPECT_EQ(1, editor.GetNumberRows());

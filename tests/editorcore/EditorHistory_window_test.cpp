@@ -74,17 +74,21 @@ TEST_F(EditorHistoryTest, WithoutDepthTheSourceMayStillUndo) {
 
 TEST_F(EditorHistoryTest, AnOpenBoxWinsAndASecondUndoFallsToTheList) {
     TestEditor &editor = Open(2, 2);
-    AddCommand(editor);
+    editor.GotoCell(1, 0);
+    editor.OnHideCols();
     TypeInBox(editor);
     Forget();
     editor.Undo();
     EXPECT_EQ("0.0", WindowText(editor.Edit()));
+    EXPECT_EQ("0 of 0,1", editor.Order());
     EXPECT_EQ("Title(table,null)", m_log.Take());
     EXPECT_EQ("1049(1,0)", m_host.TakeMessages()); // no word of commands on this path
     EXPECT_TRUE(editor.CanRedo());
     editor.Undo();
-    EXPECT_EQ("0.0", WindowText(editor.Edit()));
-    EXPECT_EQ("unexec Title(table,null)", m_log.Take());
+    EXPECT_EQ(nullptr, editor.Edit());
+    EXPECT_EQ("0,1 of 0,1", editor.Order());
+    EXPECT_EQ("TextAlignment Title(table,null)", m_log.Take());
+    EXPECT_EQ("0.0 1.0", m_source->Text(0, 0) + " " + m_source->Text(1, 0));
 }
 
 TEST_F(EditorHistoryTest, RedoOfAnUndoneBoxTypesItAgain) {

@@ -207,4 +207,65 @@ TEST_F(EditorKeysTest, AClickWithShiftExtendsTheSelection) {
     ReleaseLeft(editor.Cells(), 5, 50);
 }
 
+TEST_F(EditorKeysTest, AClickWithShiftAboveAndLeftOfTheAnchorSelectsTheBlockBetween) {
+    TestEditor &editor = Open(3, 5);
+    for (int col = 0; col < 3; ++col)
+        editor.SetColWidth(col, 60);
+    editor.GotoCell(2, 2);
+    HeldKeys shift({VK_SHIFT});
+    PressLeft(editor.Cells(), 65, 18 + 5);
+    EXPECT_EQ("1.1 2.1 1.2 2.2 ", Selected(editor));
+    ReleaseLeft(editor.Cells(), 65, 18 + 5);
+    // The anchor stays where the block began.
+    PressLeft(editor.Cells(), 125, 3 * 18 + 5);
+    EXPECT_EQ("2.2 2.3 ", Selected(editor));
+    ReleaseLeft(editor.Cells(), 125, 3 * 18 + 5);
+}
+
+TEST_F(EditorKeysTest, AClickWithShiftAfterAnEditThatEscapeEndedStartsAtTheCellOfTheEdit) {
+    TestEditor &editor = Open(3, 5);
+    editor.GotoCell(1, 1);
+    editor.StartEdit();
+    SendKey(editor.Edit(), VK_ESCAPE);
+    HeldKeys shift({VK_SHIFT});
+    Key(editor, VK_DOWN);
+    EXPECT_EQ("1.1 1.2 ", Selected(editor));
+}
+
+TEST_F(EditorKeysTest, CharactersThatShareTheirNumberWithAnArrowStartTheEdit) {
+    for (const char *character : {"(", "&"}) {
+        TestEditor &editor = Open(2, 2);
+        SendChar(editor.Cells(), static_cast<UINT>(*character));
+        ASSERT_NE(nullptr, editor.Edit()) << character;
+        EXPECT_EQ(character, WindowText(editor.Edit()));
+    }
+}
+
+TEST_F(EditorKeysTest, TheNumbersOfTheArrowsOutsideACharacterAreArrows) {
+    TestEditor &editor = Open(2, 2);
+    for (UINT key : {38u, 40u})
+        editor.OnCharDown(&key, 1);
+    EXPECT_EQ(nullptr, editor.Edit());
+}
+
+TEST_F(EditorKeysTest, TabGoesPastAColumnOfNoWidth) {
+    TestEditor &editor = Open(4, 2);
+    editor.SetColWidth(1, 0);
+    Key(editor, VK_TAB, 9);
+    EXPECT_EQ("cur=(2,0) size=4x2", editor.State());
+    HeldKeys shift({VK_SHIFT});
+    Key(editor, VK_TAB, 9);
+    EXPECT_EQ("cur=(0,0) size=4x2", editor.State());
+}
+
+TEST_F(EditorKeysTest, DeleteOnThePlaceholderRowDoesNothing) {
+    TestEditor &editor = Open(2, 0);
+    Key(editor, VK_DELETE);
+    editor.SelectColumns(1, 1);
+    Key(editor, VK_DELETE);
+    EXPECT_EQ(std::string::npos, m_log.Take().find("SetCell"));
+    EXPECT_EQ("", TestApp().TakeBoxes());
+    EXPECT_EQ(0, m_source->GetNumRows());
+}
+
 } // namespace

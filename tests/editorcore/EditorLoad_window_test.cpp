@@ -1,6 +1,11 @@
 // Opening a table and closing it.
 #include "EditorWindowTest.h"
 
+#include "editorcore/QuietAppInterface.h"
+#include "grid/UGMem.h"
+
+#include <utility>
+
 namespace {
 
 class EditorLoadTest : public EditorWindowTest {
@@ -327,6 +332,125 @@ TEST_F(EditorLoadTest, WithoutAutomaticLayoutNoFileIsTouched) {
     EXPECT_TRUE(editor.LoadData(path.c_str(), nullptr, kEditNormal, ""));
     editor.CloseDataSource(false);
     EXPECT_EQ("none", Content(PathOf("tdat.@layout")));
+}
+
+// --- What a new table begins with
+
+TEST_F(EditorLoadTest, ANewTableBeginsWithNothingSelectedAndNoHeadingMode) {
+    TestEditor &editor = Open(3, 5);
+    editor.SelectRows(1, 3);
+    Source(3, 5, "new");
+    ASSERT_TRUE(editor.LoadData("q", nullptr, kEditNormal, ""));
+    EXPECT_EQ("0,0..0,0 mode=0 anchor=(-1,-1)", editor.Selection());
+    EXPECT_FALSE(editor.IsInMultipleSelection());
+    m_log.Take();
+    ::SendMessageA(editor.Cells(), WM_KEYDOWN, VK_DELETE, 1);
+    const std::string calls = m_log.Take();
+    EXPECT_EQ(std::string::npos, calls.find("DeleteRow")) << calls;
+}
+
+TEST_F(EditorLoadTest, AClosedTableLeavesNoSelectionAndNoHeadingMode) {
+    TestEditor &editor = Open(3, 5);
+    editor.SelectRows(1, 3);
+    editor.CloseDataSource(false);
+    EXPECT_EQ("none mode=0 anchor=(-1,-1)", editor.Selection());
+}
+
+TEST_F(EditorLoadTest, TheFirstCellOfANewTableIsToldWhereverTheOldOneStood) {
+    TestEditor &editor = Open(3, 5);
+    editor.m_notesCellChanges = true;
+    for (const auto &[col, row] : {std::pair(2, 3), std::pair(0, 0)}) {
+        editor.GotoCell(col, row);
+        auto *source = Source(3, 5, "new");
+        editor.m_cellChanges.clear();
+        ASSERT_TRUE(editor.LoadData("q", nullptr, kEditNormal, ""));
+        ASSERT_FALSE(editor.m_cellChanges.empty());
+        EXPECT_EQ("0,0", editor.m_cellChanges.back().substr(editor.m_cellChanges.back().find('>') + 1));
+        EXPECT_STREQ(source->Text(0, 0).c_str(), editor.m_GI.m_currentCell.GetText());
+    }
+}
+
+// --- Sources that come and go in the grid's table of them
+
+TEST_F(EditorLoadTest, WithEverySlotLentTheSourceIsDeletedTheLoadRefusedAndLaterLoadsWork) {
+    TestEditor &editor = Make();
+    CUGMem lent[4];
+    for (CUGMem &source : lent)
+        ASSERT_LT(0, editor.AddDataSource(&source));
+    Source(2, 2);
+    Forget();
+    EXPECT_FALSE(editor.LoadData("p", nullptr, kEditNormal, ""));
+    EXPECT_EQ("Could not get data source!|16", TestApp().TakeBoxes());
+    EXPECT_EQ("Create(p) src.Open(p,) src.GetOption(7) src.Close(0) src.delete", m_log.Take());
+    EXPECT_FALSE(editor.IsDataSrcOpen());
+    EXPECT_EQ(nullptr, ::GetCapture());
+    editor.RemoveDataSource(2);
+    Source(2, 2);
+    EXPECT_TRUE(editor.LoadData("p", nullptr, kEditNormal, ""));
+    EXPECT_EQ("cur=(0,0) size=2x2", editor.State());
+    editor.CloseDataSource(false);
+    for (int slot : {1, 3, 4})
+        editor.RemoveDataSource(slot);
+}
+
+TEST_F(EditorLoadTest, ASourceThatTheHostTookOutIsTheHostsAndTheCloseSucceeds) {
+    TestEditor &editor = Open(2, 3);
+    EXPECT_EQ(GRID_SUCCESS, editor.RemoveDataSource(editor.GetDefaultDataSource()));
+    EXPECT_EQ(nullptr, editor.GetCurrentDataSrc(false));
+    EXPECT_TRUE(editor.CloseDataSource(false));
+    EXPECT_EQ("", m_log.Take()); // neither closed nor deleted
+    EXPECT_FALSE(editor.IsDataSrcOpen());
+    EXPECT_EQ("cur=(0,0) size=0x0", editor.State());
+    delete m_source;
+    Source(4, 5, "new");
+    EXPECT_TRUE(editor.LoadData("q", nullptr, kEditNormal, ""));
+    EXPECT_EQ("cur=(0,0) size=4x5", editor.State());
+}
+
+TEST_F(EditorLoadTest, TheEditorsEndDeletesNothingThatItDoesNotOwn) {
+    CUGMem others;
+    TestEditor &editor = Open(2, 3);
+    const int slot = editor.GetDefaultDataSource();
+    editor.RemoveDataSource(slot);
+    ASSERT_EQ(slot, editor.AddDataSource(&others)); // the host's own, where the editor's was
+    EXPECT_EQ(nullptr, editor.GetCurrentDataSrc(false));
+    Forget();
+    m_editors.clear();
+    EXPECT_EQ("", m_log.Take());
+    delete m_source;
+}
+
+// --- Before the library is set up
+
+TEST_F(EditorLoadTest, AnEditorMadeBeforeTheLibraryIsSetUpSaysSoAndRefusesLoads) {
+    TestEditor::ForgetInitialise();
+    TestEditor &editor = Make();
+    EXPECT_EQ("The editor cannot be used: CEditorCore::Initialise was not called with a host that gives editor "
+              "options.|16",
+              TestApp().TakeBoxes());
+    EXPECT_TRUE(editor.ConstructFailed());
+    EXPECT_FALSE(editor.LoadData("p", nullptr, kEditNormal, ""));
+    editor.OnCopy();
+    editor.OnUnHideCols();
+    editor.Undo();
+    CEditorCore::SetEnterKey(false);
+    TestApp().TakeBoxes();
+    m_editors.clear();
+    CEditorCore::Initialise(&m_service);
+    EXPECT_FALSE(Make().ConstructFailed());
+    EXPECT_EQ("", TestApp().TakeBoxes());
+}
+
+TEST_F(EditorLoadTest, AHostWithoutOptionsIsRefusedWithAMessage) {
+    class : public CQuietAppInterface {
+        CVEditorOptions *GetEditorOptions() override { return nullptr; }
+    } host;
+    CEditorCore::Initialise(&host);
+    EXPECT_EQ("The host gives no editor options: no editor can be used.|16", TestApp().TakeBoxes());
+    EXPECT_TRUE(Make().ConstructFailed());
+    m_editors.clear();
+    CEditorCore::Initialise(&m_service);
+    TestApp().TakeBoxes();
 }
 
 } // namespace

@@ -158,4 +158,19 @@ TEST_F(EditorSaveTest, WithoutASourceItIsSaid) {
     EXPECT_EQ("Could not get data source!|16", TestApp().TakeBoxes());
 }
 
+TEST_F(EditorSaveTest, AWorkingCopyThatCannotBeReadBackIsKept) {
+    // Two tables in one layout file: the second one is read out of step.
+    OpenFile("t.dat", "OTHER").CloseDataSource(false);
+    TestEditor &editor = OpenFile("t.dat", "T");
+    int width = 77;
+    editor.SetColWidth(1, width);
+    editor.OnColSized(1, &width);
+    const std::string order = editor.Order(), widths = editor.FieldWidths();
+    EXPECT_TRUE(editor.OnSaveAs(PathOf("new.dat").c_str(), false, -1));
+    EXPECT_EQ(order, editor.Order());
+    EXPECT_EQ(widths, editor.FieldWidths());
+    editor.OnHideCols();
+    EXPECT_EQ("1 of 0,1", editor.Order());
+}
+
 } // namespace

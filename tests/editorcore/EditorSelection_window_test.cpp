@@ -237,4 +237,33 @@ TEST_F(EditorSelectionTest, AColumnOfAnEmptyTableIsBlankedWithoutHarmToItsHeadin
     EXPECT_STREQ("F1", heading);
 }
 
+TEST_F(EditorSelectionTest, AfterTheCornerDeleteBlanksTheCellsAndDeletesNoRows) {
+    TestEditor &editor = OpenEven(2, 3);
+    ClickSide(editor, 5);
+    ClickLeft(editor.Corner(), 5, 5);
+    EXPECT_EQ("0,0..1,2 mode=0 anchor=(-1,-1)", editor.Selection());
+    Key(editor, VK_DELETE);
+    EXPECT_EQ(3, m_source->GetNumRows());
+    EXPECT_EQ("", m_source->Text(1, 2));
+}
+
+TEST_F(EditorSelectionTest, MovesWithoutTheButtonSelectNothing) {
+    TestEditor &editor = OpenEven(4, 6);
+    ClickTop(editor, 70);
+    const int side = editor.GetSH_Width();
+    MoveMouse(editor.m_hWnd, side + 190, 40, 0);
+    EXPECT_EQ("1,0..1,5 mode=1 anchor=(1,-1)", editor.Selection());
+    // The square between the bars belongs to the editor's own window: hovering there scrolls nothing.
+    MoveMouse(editor.m_hWnd, 1000, 1000, 0);
+    EXPECT_EQ("1,0..1,5 mode=1 anchor=(1,-1)", editor.Selection());
+}
+
+TEST_F(EditorSelectionTest, AMoveWithoutTheButtonEndsTheDrag) {
+    TestEditor &editor = OpenEven(4, 6);
+    PressLeft(editor.TopHeading(), 70, 5);
+    ASSERT_EQ(editor.m_hWnd, ::GetCapture());
+    MoveMouse(editor.m_hWnd, 100, 40, 0); // the release went elsewhere
+    EXPECT_EQ(nullptr, ::GetCapture());
+}
+
 } // namespace

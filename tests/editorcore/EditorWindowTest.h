@@ -44,6 +44,21 @@ public:
     using CEditorCore::SelectColumns;
     using CEditorCore::SelectRows;
 
+    // As if CEditorCore::Initialise had not been called.
+    static void ForgetInitialise() {
+        ms_bInitCalled = false;
+        ms_pAppInterface = nullptr;
+    }
+    // "from>to" of each change of the current cell, while it is noted.
+    std::vector<std::string> m_cellChanges;
+    bool m_notesCellChanges = false;
+
+    void OnCellChange(int oldCol, int newCol, long oldRow, long newRow) override {
+        if (!m_notesCellChanges)
+            return;
+        m_cellChanges.push_back(std::to_string(oldCol) + "," + std::to_string(oldRow) + ">" +
+                                std::to_string(newCol) + "," + std::to_string(newRow));
+    }
     void SetCustomOptions() override { m_log->Note("CustomOptions"); }
     void SetTextAlignment() override { m_log->Note("TextAlignment"); }
     void OnLClicked(int col, long row, int updn, RECT *rect, POINT *point, int processed) override;
