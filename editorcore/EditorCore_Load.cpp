@@ -109,7 +109,7 @@ void CEditorCore::AbandonLoad() {
     if (!m_bDataSrcOpen)
         return;
     RunInMemory([this] {
-        m_pLayout->Reset();
+        m_pLayout->ForgetFile();
         CUGCtrl::SetNumberRows(0, 0);
         SetNumberCols(0);
     });
@@ -154,6 +154,7 @@ void CEditorCore::LeaveTable() {
         CUGCtrl::SetNumberRows(0, 0);
         SetNumberCols(0);
     }
+    m_pLayout->ForgetFile();
     if (source != nullptr) {
         m_GI.m_currentSource = 0;
         RemoveDataSource(m_nDataSrcIndex);

@@ -24,6 +24,12 @@ void CEditorLayout::Reset() {
     m_TableInfo.Clear();
 }
 
+void CEditorLayout::ForgetFile() {
+    Reset();
+    m_Tables.RemoveAll();
+    m_strLastXParmsSet.Empty();
+}
+
 void CEditorLayout::Serialize(CArchive &ar) {
     if (ar.IsStoring())
         Store(ar);

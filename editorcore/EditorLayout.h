@@ -23,6 +23,8 @@ public:
     // Takes sizes, and columns numbered from 0, over from the grid.
     void CaptureFromGrid();
     void Reset();
+    // Everything of the file that was open: none of it goes into the next one's.
+    void ForgetFile();
     const CTableInfo &GetWorkingCopy() const { return m_TableInfo; }
     void SetWorkingCopy(const CTableInfo &info) { m_TableInfo = info; }
 

@@ -1,6 +1,8 @@
 // The small operations of the frame: names, rows, settings, titles, and the source's call back.
 #include "EditorWindowTest.h"
 
+#include <gmock/gmock.h>
+
 #include <filesystem>
 
 namespace {
@@ -221,8 +223,12 @@ TEST_F(EditorFrameTest, TheLayoutFilesNameLosesTheLastDot) {
 
 TEST_F(EditorFrameTest, TheSetupOfTheGrid) {
     TestEditor &editor = Make();
-    EXPECT_EQ(1, editor.m_GI.m_multiSelect);
-    EXPECT_TRUE(editor.m_GI.m_rows.m_uniform);
+    const CUGGridInfo &info = editor.m_GI;
+    EXPECT_EQ(1, info.m_multiSelect);
+    EXPECT_TRUE(info.m_rows.m_uniform);
+    const int conduct[] = {info.m_colTranslationEnabled, info.m_currentCellStyle, info.m_ballisticMode,
+                           info.m_vScrollMode, info.m_hScrollMode};
+    EXPECT_THAT(conduct, testing::ElementsAre(1, 2, 3, 1, 1));
     CUGCell cell;
     editor.GetGridDefault(&cell);
     EXPECT_EQ(0x112233u, cell.GetTextColor());

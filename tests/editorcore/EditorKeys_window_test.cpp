@@ -268,4 +268,24 @@ TEST_F(EditorKeysTest, DeleteOnThePlaceholderRowDoesNothing) {
     EXPECT_EQ(0, m_source->GetNumRows());
 }
 
+TEST_F(EditorKeysTest, AClickOnTheCurrentCellClearsASelectionAndAHeadingSelection) {
+    TestEditor &editor = Open(3, 5);
+    editor.SelectRange(0, 0, 2, 1);
+    ClickLeft(editor.Cells(), 5, 5);
+    EXPECT_EQ("0.0 ", Selected(editor));
+    editor.SelectRows(0, 2);
+    ClickLeft(editor.Cells(), 5, 5);
+    EXPECT_EQ("0,0..0,0 mode=0 anchor=(-1,-1)", editor.Selection());
+}
+
+TEST_F(EditorKeysTest, AClickWithShiftOnTheCurrentCellTakesTheBlockBackToIt) {
+    TestEditor &editor = Open(3, 5);
+    editor.ClearSelections();
+    editor.SelectRange(0, 1, 2, 3);
+    HeldKeys shift({VK_SHIFT});
+    PressLeft(editor.Cells(), 5, 5);
+    EXPECT_EQ("0.0 0.1 ", Selected(editor));
+    ReleaseLeft(editor.Cells(), 5, 5);
+}
+
 } // namespace

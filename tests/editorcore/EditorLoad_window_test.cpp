@@ -453,4 +453,39 @@ TEST_F(EditorLoadTest, AHostWithoutOptionsIsRefusedWithAMessage) {
     TestApp().TakeBoxes();
 }
 
+TEST_F(EditorLoadTest, RowHeightAndHeadingSizesComeBackInAnotherEditor) {
+    const std::string path = MakeFile("t.dat");
+    TestEditor &editor = Make();
+    Source(2, 3);
+    ASSERT_TRUE(editor.LoadData(path.c_str(), nullptr, kEditNormal, ""));
+    int size = 33;
+    editor.SetRowHeight(0, size);
+    editor.OnRowSized(0, &size);
+    editor.SetTH_Height(44);
+    editor.SetSH_Width(77);
+    editor.OnColSized(-1, &size);
+    editor.CloseDataSource(false);
+    TestEditor &other = Make();
+    Source(2, 3);
+    ASSERT_TRUE(other.LoadData(path.c_str(), nullptr, kEditNormal, ""));
+    other.GetRowHeight(2, &size);
+    EXPECT_EQ("33 44 77", std::to_string(size) + " " + std::to_string(other.GetTH_Height()) + " " +
+                              std::to_string(other.GetSH_Width()));
+}
+
+TEST_F(EditorLoadTest, TablesOfOneFileDoNotGoIntoTheLayoutOfTheNext) {
+    const std::string first = MakeFile("a.dat"), second = MakeFile("b.dat"), alone = MakeFile("c.dat");
+    TestEditor &editor = Make();
+    for (const auto &[path, table] : {std::pair(first, "ONE"), std::pair(second, "TWO")}) {
+        Source(2, 3);
+        ASSERT_TRUE(editor.LoadData(path.c_str(), table, kEditNormal, ""));
+        editor.CloseDataSource(false);
+    }
+    TestEditor &other = Make();
+    Source(2, 3);
+    ASSERT_TRUE(other.LoadData(alone.c_str(), "TWO", kEditNormal, ""));
+    other.CloseDataSource(false);
+    EXPECT_EQ(Content(PathOf("cdat.@layout")), Content(PathOf("bdat.@layout")));
+}
+
 } // namespace

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
 """Finding, replacing, going to a record and freezing fields: find_session.py HOST-PROGRAM WORK-FOLDER."""
+import hostdriver
 import sessions
 from sessions import MESSAGE, RECORD, records
 
@@ -82,6 +83,21 @@ class Find(sessions.Session):
         self.host.await_no_window(id=COUNT)
         wide = self.cells.area(sessions.SIDE_HEADING)
         self.assertGreater(wide[2] - wide[0], narrow[2] - narrow[0] + 50)
+        self.host.resize(700, 500) # too narrow for the fields that are not frozen
+        frozen = [self.cells.area(part) for part in (sessions.SIDE_HEADING, sessions.CORNER)]
+        before = [self.host.picture(area) for area in frozen]
+        # The right end of the side heading is the second field as the cells show it, below the current record.
+        self.host.keys("Tab")
+        right, bottom = self.cells.current()[2:]
+        self.host.keys("Home")
+        strip = [right - 20, bottom, right, frozen[0][3]]
+        end = [frozen[0][2] - 20, bottom, frozen[0][2], frozen[0][3]]
+        self.assertEqual(self.host.picture(strip), self.host.picture(end))
+        headings = self.cells.area(sessions.TOP_HEADING)
+        first = self.host.picture(headings)
+        self.host.keys("End")
+        hostdriver.wait_for("the fields to scroll", lambda: self.host.picture(headings) != first)
+        self.assertEqual(before, [self.host.picture(area) for area in frozen])
 
 
 sessions.run()

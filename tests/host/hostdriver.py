@@ -178,6 +178,12 @@ class Host:
         wait_for("the new size", lambda: [window for window in self.look() if window["text"].startswith(FRAME) and
                                           window["rect"][2:] == [left + width, top + height]])
 
+    def picture(self, rect):
+        """The pixels of a rectangle of the screen, three bytes each."""
+        left, top, right, bottom = rect
+        return subprocess.run(["import", "-window", "root", "-crop", f"{right - left}x{bottom - top}+{left}+{top}",
+                               "-depth", "8", "rgb:-"], env=self.env, capture_output=True, check=True).stdout
+
     # --- The clipboard, as another program sees it
 
     def set_clipboard(self, text):
