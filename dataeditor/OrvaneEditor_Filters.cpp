@@ -206,10 +206,11 @@ void COrvaneEditor::OnDeleteRows() {
         CEditorCore::OnDeleteRows(false);
         return;
     }
+    SettleEdit(); // the record under the box may be among them
     CUGDataSource *source = GetCurrentDataSrc(true);
     if (source == nullptr || AfxMessageBox("Delete filtered records?\n\n"
                                            "(You will not be able to undo this operation)",
-                                           MB_YESNO | MB_ICONQUESTION) == IDNO)
+                                           MB_YESNO | MB_ICONQUESTION) != IDYES)
         return;
     CPaintingScope quiet(this);
     if (source->DeleteRows(-1, -1) != GRID_SUCCESS)

@@ -232,6 +232,7 @@ void COrvaneEditor::TellReplaced(const ReplaceRun &run, const char *originalFind
 
 void COrvaneEditor::DoReplace(int col, const char *find, const char *replace, const char *originalFind, int direction,
                               bool matchCase) {
+    SettleEdit(); // a box would write over what is replaced in its cell
     CEditCommandGuard guard(this);
     ReplaceRun run{find, replace, direction, matchCase};
     if (!PrepareReplace(&run, col, direction))

@@ -18,6 +18,8 @@ int CEditorCore::OnEditStart(int col, long, CEdit *edit) {
 int CEditorCore::OnEditVerify(int col, long row, CEdit *, UINT *key) {
     if (col == -1 && row == -1 && *key == VK_RETURN) {
         *key = ms_bEnterKeyIsTab ? VK_TAB : VK_DOWN;
+        // The view may scroll to the new record. The edit is finished after it as anywhere, an undo step of its own.
+        const CValueScope staying(&m_GI.m_suppressFinish, 1);
         if (GetNumberRows() == 0)
             OnAppendRow(GetCurrentCol());
         if (GetNumberCols() > 1 && GetCurrentRow() == LastRowIndex() && !ms_bEnterKeyIsTab)
@@ -152,6 +154,7 @@ void CEditorCore::SaveEditContents() {
     const bool differs = IsEditTyped();
     {
         const CValueScope saving(&m_bSavingEdit, true);
+        const CValueScope ownStep(&m_bInCommand, false); // also where a command finishes it before it begins
         edit->SendMessage(WM_KILLFOCUS, 0, 0);
     }
     if (differs)

@@ -258,4 +258,16 @@ TEST_F(EditorEditingTest, ReadOnlyCellsAreNamedByFieldRowOrBoth) {
     EXPECT_FALSE(editor.IsGridCellReadOnly(3, 4));
 }
 
+TEST_F(EditorEditingTest, EnterInTheLastRecordInSightIsAnUndoStepOfItsOwnAndGoesOnEditing) {
+    TestEditor &editor = Open(2, 40);
+    editor.GotoCell(1, 39);
+    Type(editor, "x");
+    SendKey(editor.Edit(), VK_RETURN); // the view scrolls to the record that is appended
+    EXPECT_EQ("src.AppendRow() Title(table,null) src.StartTransaction() src.EndTransaction() Title(table,null) "
+              "src.SetCell(1,39,x) Title(table,null)",
+              m_log.Take().substr(0, 132));
+    EXPECT_EQ("cur=(1,40) size=2x41", editor.State());
+    EXPECT_EQ("", Box(editor));
+}
+
 } // namespace
