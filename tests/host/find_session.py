@@ -48,6 +48,16 @@ class Find(sessions.Session):
         self.host.await_no_message()
         self.await_record(1)
 
+    def test_an_expression_that_cannot_be_searched_says_why(self):
+        self.dialog("ctrl+f", "Find")
+        self.host.type(r"Eb\Kner")
+        self.host.click_window(id=REGEX)
+        self.host.keys("Return")
+        self.host.await_window(text=r"\K cannot be used here: what is found cannot begin later than its match.")
+        self.host.keys("Return")
+        self.host.await_no_message()
+        self.await_record(1)
+
     def test_replacements_are_counted_and_one_undo_takes_them_back(self):
         found = self.numbers_of("Ebner")
         self.dialog("ctrl+r", "Replace")
