@@ -285,6 +285,8 @@ protected:
     CEditorLayout *m_pLayout = nullptr;
     CColumnCellTypeMap *m_pColCellTypes = nullptr;
 
+    static void ReportOutOfMemory();
+
 private:
     friend class CEditCommandGuard;
     friend class CEditorLayout;
@@ -350,5 +352,4 @@ private:
     void TabInGrid(bool shift);
     void NotifyEdited();
     void PostCommandsChanged();
-    static void ReportOutOfMemory();
 };
