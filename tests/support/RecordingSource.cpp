@@ -148,6 +148,7 @@ int RecordingSource::FindNext(int col, const char *text, long *row) {
 }
 
 int RecordingSource::SetOption(int option, long value1, long) {
+    ++m_optionsSet;
     return Done("SetOption", std::to_string(option) + "," + std::to_string(value1));
 }
 
@@ -175,8 +176,8 @@ int RecordingSource::RequestMoreRows(long rowCount, long wanted, long *found) {
 }
 
 void RecordingSource::StartTransaction() {
-    ++m_openTransactions;
     Done("StartTransaction", "");
+    ++m_openTransactions;
 }
 
 void RecordingSource::EndTransaction() {
