@@ -176,6 +176,7 @@ private:
     void WriteCellText(int col, long row, const char *text);
     void FindNext(const CFindReplaceData &data);
     bool IsAfterLastRecord(UINT key, int step);
+    void GotoRecord(long record);
     void DeleteFilteredRecords(CUGDataSource *source);
     void LockColumns(int wanted);
     long FindPassing(long row, int step);

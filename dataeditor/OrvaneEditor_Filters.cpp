@@ -200,11 +200,18 @@ int COrvaneEditor::OnEditContinue(int oldCol, long oldRow, int *newCol, long *ne
 
 // A number beyond the end lands on the last record but one, the exact last one on the last.
 void COrvaneEditor::OnGotoRecord() {
-    CResourceScope resources;
-    CInsertRecordsDlg dialog("Goto Record", "Goto Record", nullptr);
-    if (dialog.DoModal() != IDOK)
-        return;
-    long record = dialog.m_nRecords;
+    RunCommand([this] {
+        CResourceScope resources;
+        CInsertRecordsDlg dialog("Goto Record", "Goto Record", nullptr);
+        const INT_PTR answer = dialog.DoModal();
+        if (answer == -1)
+            AfxThrowMemoryException(); // no window for the question
+        if (answer == IDOK)
+            GotoRecord(dialog.m_nRecords);
+    });
+}
+
+void COrvaneEditor::GotoRecord(long record) {
     if (record < 1) {
         AfxMessageBox("Please enter a number one or greater.");
         return;

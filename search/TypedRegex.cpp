@@ -189,8 +189,6 @@ TypedRegex::TypedRegex(const std::string &typed) {
     moved = mover.Move();
     refused = mover.Refused();
     valid = refused.empty();
-    if (!valid)
-        moved.clear();
 }
 
 } // namespace Search

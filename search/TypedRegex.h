@@ -16,7 +16,7 @@ struct TypedRegex {
 
     bool valid = false;  // an expression, and one that may be moved
     int groups = 0;      // that were typed
-    std::string moved;   // empty where it is not valid
+    std::string moved;   // means nothing where it is not valid
     std::string refused; // why an expression may not be moved, as a sentence for the user
 };
 

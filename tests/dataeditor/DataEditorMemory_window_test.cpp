@@ -163,6 +163,19 @@ TEST_F(DataEditorMemoryTest, DeletingFilteredRecords) {
         "Delete filtered records?\n(You will not be able to undo this operation)|36");
 }
 
+TEST_F(DataEditorMemoryTest, GoingToARecord) {
+    Sweep([](TestDataEditor &editor, const auto &ready) {
+        WithDialog act(
+            [](HWND dialog) {
+                ::SetDlgItemTextA(dialog, IDC_RECORDS_COUNT, "3");
+                ::SendMessageA(dialog, WM_COMMAND, IDOK, 0);
+            },
+            true);
+        ready();
+        editor.OnGotoRecord();
+    });
+}
+
 TEST_F(DataEditorMemoryTest, Freezing) {
     Sweep([](TestDataEditor &editor, const auto &ready) {
         WithDialog act(
