@@ -4,7 +4,6 @@
 
 #include <boost/regex.hpp>
 
-#include <cctype>
 #include <vector>
 
 namespace Search {
@@ -122,21 +121,7 @@ private:
         return true;
     }
     // The parenthesis and what says of which kind the group is, as far as numbers stand in it.
-    void MoveOpening() {
-        const size_t kind = m_extended ? SkipSpace(m_at + 1) : m_at + 1;
-        if (At(kind) != '?') {
-            MovePlainGroup();
-        } else if (kind == m_at + 1) {
-            MoveSpecialGroup();
-        } else {
-            m_text.erase(m_at + 1, kind - m_at - 1); // space between the two
-        }
-    }
-    size_t SkipSpace(size_t at) const {
-        while (std::isspace(static_cast<unsigned char>(At(at))))
-            ++at;
-        return at;
-    }
+    void MoveOpening() { At(m_at + 1) == '?' ? MoveSpecialGroup() : MovePlainGroup(); }
     void MovePlainGroup() {
         if (Follows("(*"))
             m_refused = "Verbs such as (*PRUNE) cannot be used here.";
@@ -170,7 +155,7 @@ private:
         return true;
     }
 
-    std::string m_text;
+    const std::string &m_text;
     std::string m_moved, m_refused;
     size_t m_at = 0;
     bool m_extended = false;   // spaces mean nothing and # begins a comment

@@ -209,9 +209,10 @@ TEST(ReplacementFormat, ALookAheadKeepsWhatItTook) {
 }
 
 TEST(ReplacementFormat, ConditionsAndCallsAreToTypedGroups) {
-    for (const char *typed : {"(a)?(?(1)b|c)", "(a|b(?1)c)", "(a(?R)?b)", "(a(?0)?b)", "(?(R1)a|b)",
-                              "(a)(?(R1)x|b)", "(?(DEFINE)(?<n>b))a(?&n)", "(?<n>a)?(?(<n>)b|c)"}) {
-        for (const char *text : {"ab", "c", "b", "xbaccz", "aabb"})
+    for (const char *typed :
+         {"(a)?(?(1)b|c)", "(a|b(?1)c)", "(a(?R)?b)", "(a(?0)?b)", "(?(R1)a|b)", "(a)(?(R1)x|b)",
+          "((((((((((a))))))))))(b)\\g{10}|\\g{11}", "(?(DEFINE)(?<n>b))a(?&n)", "(?<n>a)?(?(<n>)b|c)"}) {
+        for (const char *text : {"ab", "c", "b", "xbaccz", "aabb", "aba"})
             EXPECT_AS_THE_LIBRARY(typed, "[$1]", text);
     }
 }
