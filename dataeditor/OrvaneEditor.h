@@ -8,6 +8,7 @@
 
 #include "dataeditor/FindReplaceData.h"
 #include "editorcore/EditorCore.h"
+#include "editorcore/MemoryGuard.h"
 #include "search/KeptPatterns.h"
 
 #include <memory>
@@ -160,9 +161,24 @@ private:
     void LoadLastUsedXParmsSet();
     void CheckLookupFiles();
 
+    // A command of the user's: running out of memory ends it with a message, and shows the table as the source has it.
+    template <class Work> void RunCommand(Work work) {
+        if (RunInMemory(work))
+            return;
+        ReportOutOfMemory();
+        RunInMemory([this] { RedrawAll(); });
+    }
+
     void LockLoadedColumns();
     bool AddedFieldShown();
     void DropButtonMessages();
+    void ReadCellText(int col, long row);
+    void WriteCellText(int col, long row, const char *text);
+    void FindNext(const CFindReplaceData &data);
+    bool IsAfterLastRecord(UINT key, int step);
+    void GotoRecord(long record);
+    void DeleteFilteredRecords(CUGDataSource *source);
+    void FreezeColumns(int wanted);
     long FindPassing(long row, int step);
     bool StepToRecord(UINT key, int step, int newCol);
     const char *CellText(int col, long row);
@@ -179,11 +195,12 @@ private:
     bool ReplaceInColumn(ReplaceRun *run, int col);
     bool ReplaceInCell(ReplaceRun *run, int col, long row);
     void TellReplaced(const ReplaceRun &run, const char *originalFind);
-    void CloseTransaction(ReplaceRun *run);
+    void TellStopped(const ReplaceRun &run);
     void StoreLines();
     int SpanOfColumns(int first, int last);
 
     bool m_bStay = false; // the key just handled moves nothing further
     Search::KeptPatterns m_patterns;
     CUGCell m_searchedCell; // one for all, a search makes none anew
+    CString m_searchedText;
 };

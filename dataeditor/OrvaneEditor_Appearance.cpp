@@ -27,20 +27,22 @@ void COrvaneEditor::StoreLines() {
 
 void COrvaneEditor::SetIsShowingHorizLines(bool show) {
     m_bShowHorizLines = show;
-    StoreLines();
+    RunCommand([this] { StoreLines(); });
 }
 
 void COrvaneEditor::SetIsShowingVerticleLines(bool show) {
     m_bShowVertLines = show;
-    StoreLines();
+    RunCommand([this] { StoreLines(); });
 }
 
 // --- Alignment
 
 void COrvaneEditor::SetTextAlignment() {
-    CVEditorOptions *options = ms_pAppInterface->GetEditorOptions();
-    JustifyFields('n', options->IsRightJustifyingNumbers() ? 'r' : 'l');
-    JustifyFields('c', options->IsRightJustifyingText() ? 'r' : 'l');
+    RunCommand([this] {
+        CVEditorOptions *options = ms_pAppInterface->GetEditorOptions();
+        JustifyFields('n', options->IsRightJustifyingNumbers() ? 'r' : 'l');
+        JustifyFields('c', options->IsRightJustifyingText() ? 'r' : 'l');
+    });
 }
 
 void COrvaneEditor::JustifyFields(char which, char side) {
@@ -111,11 +113,18 @@ int COrvaneEditor::SpanOfColumns(int first, int last) {
 }
 
 void COrvaneEditor::OnLockColumns() {
-    CResourceScope resources;
-    CLockColumns dialog(m_nLockedCols, GetNumberCols(), this);
-    if (dialog.DoModal() != IDOK)
-        return;
-    const int wanted = std::clamp(dialog.m_nLockedCols, 0, std::max(GetNumberCols(), 0));
+    RunCommand([&] {
+        CResourceScope resources;
+        CLockColumns dialog(m_nLockedCols, GetNumberCols(), this);
+        const INT_PTR answer = dialog.DoModal();
+        if (answer == -1)
+            AfxThrowMemoryException(); // no window for the question
+        if (answer == IDOK && m_pLayout != nullptr)
+            FreezeColumns(std::clamp(dialog.m_nLockedCols, 0, std::max(GetNumberCols(), 0)));
+    });
+}
+
+void COrvaneEditor::FreezeColumns(int wanted) {
     const int delta = SpanOfColumns(m_nLockedCols, wanted) - SpanOfColumns(wanted, m_nLockedCols);
     const int sideWidth = std::max(GetSH_Width() + delta, 0);
     SetSH_Width(sideWidth);
@@ -128,7 +137,7 @@ void COrvaneEditor::OnLockColumns() {
 // --- Colour sets, kept for the host
 
 void COrvaneEditor::AttachColourSet(CString field, CPoint set) {
-    m_pLayout->AttachColourSet(field, set);
+    RunCommand([&] { m_pLayout->AttachColourSet(field, set); });
 }
 
 void COrvaneEditor::DetachColourSet(CString field) {

@@ -53,37 +53,45 @@ void COrvaneEditor::SetUseFilteredRecords(bool use) {
 }
 
 void COrvaneEditor::OnAttachFilter(int number) {
-    CUGDataSource *source = GetCurrentDataSrc(false);
-    if (source != nullptr && source->SetOption(kAttachFilter, number, 0) == GRID_SUCCESS)
-        m_nFilter = number;
-    RedrawAll();
+    RunCommand([&] {
+        CUGDataSource *source = GetCurrentDataSrc(false);
+        if (source != nullptr && source->SetOption(kAttachFilter, number, 0) == GRID_SUCCESS)
+            m_nFilter = number;
+        RedrawAll();
+    });
 }
 
 void COrvaneEditor::OnSelectAttachFilter() {
-    CUGDataSource *source = GetCurrentDataSrc(false);
-    int number = kNoFilter;
-    if (source == nullptr || !ms_pAppInterface->SelectFilter(&number) ||
-        source->SetOption(kAttachFilter, number, 0) != GRID_SUCCESS)
-        return;
-    m_nFilter = number;
-    RedrawAll();
+    RunCommand([&] {
+        CUGDataSource *source = GetCurrentDataSrc(false);
+        int number = kNoFilter;
+        if (source == nullptr || !ms_pAppInterface->SelectFilter(&number) ||
+            source->SetOption(kAttachFilter, number, 0) != GRID_SUCCESS)
+            return;
+        m_nFilter = number;
+        RedrawAll();
+    });
 }
 
 // Editing hands its result over as the default filter, whichever was edited.
 void COrvaneEditor::OnEditFilter() {
-    const int number = m_nFilter < kDefaultFilter ? kDefaultFilter : m_nFilter;
-    CUGDataSource *source = GetCurrentDataSrc(false);
-    if (source != nullptr && ms_pAppInterface->EditFilter(number, m_strFilePath) &&
-        source->SetOption(kAttachFilter, kDefaultFilter, 0) == GRID_SUCCESS)
-        m_nFilter = kDefaultFilter;
-    RedrawAll();
+    RunCommand([&] {
+        const int number = m_nFilter < kDefaultFilter ? kDefaultFilter : m_nFilter;
+        CUGDataSource *source = GetCurrentDataSrc(false);
+        if (source != nullptr && ms_pAppInterface->EditFilter(number, m_strFilePath) &&
+            source->SetOption(kAttachFilter, kDefaultFilter, 0) == GRID_SUCCESS)
+            m_nFilter = kDefaultFilter;
+        RedrawAll();
+    });
 }
 
 void COrvaneEditor::OnDetachFilter() {
-    CUGDataSource *source = GetCurrentDataSrc(false);
-    if (source != nullptr && source->SetOption(kDetachFilter, 0, 0) == GRID_SUCCESS)
-        m_nFilter = kNoFilter;
-    RedrawAll();
+    RunCommand([&] {
+        CUGDataSource *source = GetCurrentDataSrc(false);
+        if (source != nullptr && source->SetOption(kDetachFilter, 0, 0) == GRID_SUCCESS)
+            m_nFilter = kNoFilter;
+        RedrawAll();
+    });
 }
 
 // --- Navigation
@@ -98,11 +106,20 @@ long COrvaneEditor::FindPassing(long row, int step) {
     return -1;
 }
 
+// A Tab in the last cell of all, which appends a record where the last one is not left out.
+bool COrvaneEditor::IsAfterLastRecord(UINT key, int step) {
+    const bool tab = key == VK_TAB || (key == VK_RETURN && IsEnterKeyTab());
+    const long rows = GetNumberRows();
+    return tab && step > 0 && GetCurrentRow() == rows - 1 && RecPassesFilter(rows);
+}
+
 // Goes towards the next record that passes. Outside an edit the grid steps on by itself for Up, Down and Tab, and for
 // an Enter that counts as Tab, so the row is left one short of the goal.
 bool COrvaneEditor::StepToRecord(UINT key, int step, int newCol) {
     const int col = GetCurrentCol();
     const long goal = FindPassing(GetCurrentRow() + step, step);
+    if (goal < 0 && IsAfterLastRecord(key, step))
+        return !IsInEditMode(); // the grid's own step appends, or the open edit's
     if (goal < 0) {
         m_bStay = true; // nothing passes further on
         return true;
@@ -183,11 +200,18 @@ int COrvaneEditor::OnEditContinue(int oldCol, long oldRow, int *newCol, long *ne
 
 // A number beyond the end lands on the last record but one, the exact last one on the last.
 void COrvaneEditor::OnGotoRecord() {
-    CResourceScope resources;
-    CInsertRecordsDlg dialog("Goto Record", "Goto Record", nullptr);
-    if (dialog.DoModal() != IDOK)
-        return;
-    long record = dialog.m_nRecords;
+    RunCommand([this] {
+        CResourceScope resources;
+        CInsertRecordsDlg dialog("Goto Record", "Goto Record", nullptr);
+        const INT_PTR answer = dialog.DoModal();
+        if (answer == -1)
+            AfxThrowMemoryException(); // no window for the question
+        if (answer == IDOK)
+            GotoRecord(dialog.m_nRecords);
+    });
+}
+
+void COrvaneEditor::GotoRecord(long record) {
     if (record < 1) {
         AfxMessageBox("Please enter a number one or greater.");
         return;
@@ -206,15 +230,26 @@ void COrvaneEditor::OnDeleteRows() {
         CEditorCore::OnDeleteRows(false);
         return;
     }
-    SettleEdit(); // the record under the box may be among them
-    CUGDataSource *source = GetCurrentDataSrc(true);
-    if (source == nullptr || AfxMessageBox("Delete filtered records?\n\n"
-                                           "(You will not be able to undo this operation)",
-                                           MB_YESNO | MB_ICONQUESTION) != IDYES)
-        return;
-    CPaintingScope quiet(this);
-    if (source->DeleteRows(-1, -1) != GRID_SUCCESS)
-        AfxMessageBox("Error while deleting filtered records!", MB_ICONHAND);
-    OnEditNotify();
+    RunCommand([&] {
+        SettleEdit(); // the record under the box may be among them
+        if (GetCurrentDataSrc(true) == nullptr ||
+            AfxMessageBox("Delete filtered records?\n\n"
+                          "(You will not be able to undo this operation)",
+                          MB_YESNO | MB_ICONQUESTION) != IDYES)
+            return;
+        if (CUGDataSource *source = GetCurrentDataSrc(false)) // the host may have closed it while it was asked
+            DeleteFilteredRecords(source);
+    });
+}
+
+void COrvaneEditor::DeleteFilteredRecords(CUGDataSource *source) {
+    const CPaintingScope quiet(this);
+    const bool inMemory = RunInMemory([&] {
+        if (source->DeleteRows(-1, -1) != GRID_SUCCESS)
+            AfxMessageBox("Error while deleting filtered records!", MB_ICONHAND);
+        OnEditNotify();
+    });
     SetNumberRows(source->GetNumRows(), 1);
+    if (!inMemory)
+        ReportOutOfMemory();
 }

@@ -1,6 +1,8 @@
 // Finding: the order of the search, and the test of one cell.
 #include "dataeditor/OrvaneEditor.h"
 
+#include "editorcore/WaitCursorScope.h"
+
 #include <cstring>
 
 // How a search over columns stands.
@@ -28,30 +30,37 @@ void COrvaneEditor::OnFindAgain() {
 }
 
 LRESULT COrvaneEditor::OnFindNext(WPARAM wParam, LPARAM) {
-    const auto *data = reinterpret_cast<const CFindReplaceData *>(wParam);
-    ms_pAppInterface->DoWaitCursor(1);
+    RunCommand([&] { FindNext(*reinterpret_cast<const CFindReplaceData *>(wParam)); });
+    return 0;
+}
+
+void COrvaneEditor::FindNext(const CFindReplaceData &data) {
+    const CWaitCursorScope wait(ms_pAppInterface);
     SaveEditContents();
     const int current = GetCurrentCol();
-    m_FindData = *data;
+    m_FindData = data;
     m_bCanFindAgain = true;
     CString find, typed;
-    data->GetFindString(find);
-    data->GetOriginalFindString(typed);
-    const int direction = data->GetDirection();
+    data.GetFindString(find);
+    data.GetOriginalFindString(typed);
+    const int direction = data.GetDirection();
     if (direction == kSearchSelection)
-        DoSelectedCellsSearch(find, typed, data->IsMatchingCase());
+        DoSelectedCellsSearch(find, typed, data.IsMatchingCase());
     else
-        DoColumnSearch(data->IsSearchingAllFields() ? -1 : current, find, typed, direction, data->IsMatchingCase());
-    ms_pAppInterface->DoWaitCursor(-1);
-    return 0;
+        DoColumnSearch(data.IsSearchingAllFields() ? -1 : current, find, typed, direction, data.IsMatchingCase());
 }
 
 // Null after an error that was told. The text lives until the next call.
 const char *COrvaneEditor::CellText(int col, long row) {
-    if (GetCell(col, row, &m_searchedCell) == GRID_SUCCESS)
-        return m_searchedCell.GetText();
-    AfxMessageBox("Could not get cell!", MB_ICONHAND);
-    return nullptr;
+    if (GetCell(col, row, &m_searchedCell) != GRID_SUCCESS) {
+        AfxMessageBox("Could not get cell!", MB_ICONHAND);
+        return nullptr;
+    }
+    if (m_searchedCell.GetText(&m_searchedText) != GRID_SUCCESS) {
+        AfxMessageBox("Could not get cell text!", MB_ICONHAND);
+        return nullptr;
+    }
+    return m_searchedText;
 }
 
 bool COrvaneEditor::IsMatchWithCellText(int col, long row, const char *find, bool matchCase, bool *match) {

@@ -228,15 +228,30 @@ void COrvaneEditor::OnParentActivate(int activate, CView *, CView *) {
 // --- Texts from outside
 
 void COrvaneEditor::EnterEditText(const char *text, int col, long row, bool quick) {
-    if (quick) {
-        QuickSetText(col, row, text);
-    } else {
-        CUGCell cell;
-        GetCell(col, row, &cell);
-        cell.SetText(text);
-        SetCell(col, row, &cell);
-    }
-    OnEditNotify();
+    RunCommand([&] {
+        if (quick) {
+            ReadCellText(col, row);
+            QuickSetText(col, row, text);
+        } else {
+            WriteCellText(col, row, text);
+        }
+        OnEditNotify();
+    });
+}
+
+// Sources may fetch a record when a text of it is read, and count on that before one is set.
+void COrvaneEditor::ReadCellText(int col, long row) {
+    CString present;
+    GetCellText(col, row, &present);
+}
+
+// Straight through the grid.
+void COrvaneEditor::WriteCellText(int col, long row, const char *text) {
+    ReadCellText(col, row);
+    CUGCell cell;
+    GetCell(col, row, &cell);
+    cell.SetText(text);
+    SetCell(col, row, &cell);
 }
 
 // Mouse buttons that were pressed meanwhile are lost on purpose.
@@ -257,13 +272,12 @@ void COrvaneEditor::EnterPickListText(const char *text) {
     EnablePainting(0);
     m_nPickListCol = GetCurrentCol();
     m_nPickListRow = GetCurrentRow();
-    CUGCell cell;
-    GetCell(m_nPickListCol, m_nPickListRow, &cell);
-    cell.SetText(text);
-    SetCell(m_nPickListCol, m_nPickListRow, &cell);
+    const bool inMemory = RunInMemory([&] { WriteCellText(m_nPickListCol, m_nPickListRow, text); });
     DropButtonMessages();
-    m_nPickListTimer = SetTimer(kPickListTimerId, kPickListRestMs, nullptr);
+    m_nPickListTimer = SetTimer(kPickListTimerId, kPickListRestMs, nullptr); // it lets the grid paint again
     OnEditNotify();
+    if (!inMemory)
+        ReportOutOfMemory();
 }
 
 // The selection and the current cell end up on the cell that was picked for.

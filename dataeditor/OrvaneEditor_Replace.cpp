@@ -2,7 +2,11 @@
 #include "dataeditor/DataEditorDlgs.h"
 #include "dataeditor/OrvaneEditor.h"
 
+#include "editorcore/TransactionScope.h"
+#include "editorcore/WaitCursorScope.h"
+
 #include <algorithm>
+#include <optional>
 #include <string>
 
 namespace {
@@ -27,9 +31,11 @@ struct COrvaneEditor::ReplaceRun {
     bool all = false;
     long total = 0;
     bool anyMatch = false;
-    bool transactionOpen = false;
+    std::optional<CTransactionScope> transaction = std::nullopt;
     bool startTransaction = true;
     int answer = kYes;
+    int stoppedCol = -1; // of the cell at which an error ended the run
+    long stoppedRow = -1;
 };
 
 void COrvaneEditor::OnFindReplace() {
@@ -43,13 +49,15 @@ LRESULT COrvaneEditor::OnFindReplaceNext(WPARAM wParam, LPARAM) {
     CEditCommandGuard guard(this);
     if (IsGridReadOnly())
         return 0;
-    const auto *data = reinterpret_cast<const CFindReplaceData *>(wParam);
-    CString find, replace, typed;
-    data->GetFindString(find);
-    data->GetReplaceString(replace);
-    data->GetOriginalFindString(typed);
-    DoReplace(data->IsSearchingAllFields() ? -1 : GetCurrentCol(), find, replace, typed, data->GetDirection(),
-              data->IsMatchingCase());
+    RunCommand([&] {
+        const auto *data = reinterpret_cast<const CFindReplaceData *>(wParam);
+        CString find, replace, typed;
+        data->GetFindString(find);
+        data->GetReplaceString(replace);
+        data->GetOriginalFindString(typed);
+        DoReplace(data->IsSearchingAllFields() ? -1 : GetCurrentCol(), find, replace, typed, data->GetDirection(),
+                  data->IsMatchingCase());
+    });
     return 0;
 }
 
@@ -67,10 +75,11 @@ bool COrvaneEditor::AskToReplace(int col, long row, const std::string &text, con
     message.Format("Replace '%s' with '%s'?", text.c_str(), newText.c_str());
     CResourceScope resources;
     switch (CYesNoCancelAllDlg(message, nullptr).DoModal()) {
-    case IDCANCEL: *answer = kCancel; break;
+    case CYesNoCancelAllDlg::kYes: *answer = kYes; break;
     case CYesNoCancelAllDlg::kNo: *answer = kNo; break;
     case CYesNoCancelAllDlg::kAll: *answer = kAll; break;
-    default: *answer = kYes;
+    case -1: AfxThrowMemoryException(); // no window for the question
+    default: *answer = kCancel;
     }
     *replaced = *answer == kYes || *answer == kAll;
     *all = *all || *answer == kAll;
@@ -156,28 +165,23 @@ bool COrvaneEditor::PrepareReplace(ReplaceRun *run, int col, int direction) {
     return true;
 }
 
-void COrvaneEditor::CloseTransaction(ReplaceRun *run) {
-    if (run->transactionOpen)
-        EndTransaction();
-    run->transactionOpen = false;
-}
-
 // True to go on. Each confirmed replacement is an undo step of its own; after "all" the rest of the run is one.
 bool COrvaneEditor::ReplaceInCell(ReplaceRun *run, int col, long row) {
     if (AbortOperation()) {
-        CloseTransaction(run);
+        run->transaction.reset();
         RedrawAll();
         return false;
     }
-    if (run->startTransaction) {
-        StartTransaction();
-        run->transactionOpen = true;
-    }
+    if (run->startTransaction)
+        run->transaction.emplace(this);
     int count = 0;
     bool matched = false, replaced = false;
     if (!ReplaceCellStringIfMatch(col, row, run->find, run->replace, run->matchCase, run->repeat, run->all, &run->answer,
-                                  &matched, &replaced, &count))
+                                  &matched, &replaced, &count)) {
+        run->stoppedCol = col;
+        run->stoppedRow = row;
         return false;
+    }
     ms_pAppInterface->DoWaitCursor(0); // the dialog has ended it
     if (count > 0)
         matched = replaced = true;
@@ -194,7 +198,7 @@ bool COrvaneEditor::ReplaceInCell(ReplaceRun *run, int col, long row) {
     }
     run->startTransaction = !run->all && replaced;
     if (run->startTransaction)
-        CloseTransaction(run);
+        run->transaction.reset();
     return true;
 }
 
@@ -230,19 +234,32 @@ void COrvaneEditor::TellReplaced(const ReplaceRun &run, const char *originalFind
     ms_pAppInterface->ShowMessage(text);
 }
 
+// What was wrong with the cell has been told; after "all" nobody has seen how far the run came.
+void COrvaneEditor::TellStopped(const ReplaceRun &run) {
+    if (run.stoppedRow < 0 || (!run.all && run.answer != kAll))
+        return;
+    CString field, text;
+    if (CUGDataSource *source = GetCurrentDataSrc(false))
+        source->GetColName(GetDataColNumber(run.stoppedCol), &field);
+    text.Format("Replaced %ld string(s); stopped at record %ld, field %s.", run.total, run.stoppedRow + 1,
+                static_cast<const char *>(field));
+    ms_pAppInterface->ShowMessage(text);
+}
+
 void COrvaneEditor::DoReplace(int col, const char *find, const char *replace, const char *originalFind, int direction,
                               bool matchCase) {
-    SettleEdit(); // a box would write over what is replaced in its cell
     CEditCommandGuard guard(this);
-    ReplaceRun run{find, replace, direction, matchCase};
-    if (!PrepareReplace(&run, col, direction))
-        return;
-    ms_pAppInterface->DoWaitCursor(1);
-    bool finished = true;
-    for (int c = run.firstCol; c <= run.lastCol && finished; ++c)
-        finished = ReplaceInColumn(&run, c);
-    CloseTransaction(&run);
-    if (finished)
-        TellReplaced(run, originalFind);
-    ms_pAppInterface->DoWaitCursor(-1);
+    RunCommand([&] {
+        SettleEdit(); // a box would write over what is replaced in its cell
+        std::optional<CWaitCursorScope> wait; // ends after the group of the source's undo
+        ReplaceRun run{find, replace, direction, matchCase};
+        if (!PrepareReplace(&run, col, direction))
+            return;
+        wait.emplace(ms_pAppInterface);
+        bool finished = true;
+        for (int c = run.firstCol; c <= run.lastCol && finished; ++c)
+            finished = ReplaceInColumn(&run, c);
+        run.transaction.reset();
+        finished ? TellReplaced(run, originalFind) : TellStopped(run);
+    });
 }

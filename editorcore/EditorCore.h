@@ -296,6 +296,7 @@ protected:
     CEditorLayout *m_pLayout = nullptr;
     CColumnCellTypeMap *m_pColCellTypes = nullptr;
 
+
 private:
     friend class CEditCommandGuard;
     friend class CEditorLayout;

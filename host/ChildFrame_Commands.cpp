@@ -67,7 +67,7 @@ void CChildFrame::OnEditReplace() {
 }
 
 void CChildFrame::OnEditFindAgain() {
-    m_editor.OnFindAgain();
+    m_editor.FindAgain();
 }
 
 void CChildFrame::OnRecordGoto() {

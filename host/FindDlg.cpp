@@ -161,9 +161,21 @@ int CFindDlg::ScopeDirection() const {
     return kSearchDown;
 }
 
+// The editor takes what cannot be searched for as what is nowhere found, so the reason is said here.
+bool CFindDlg::CanBeSearched() {
+    if (!IsDlgButtonChecked(IDC_FIND_REGEX))
+        return true;
+    const std::string refused = Search::WhyRefused(TextOf(GetDlgItem(IDC_FIND_TEXT)).GetString());
+    if (!refused.empty())
+        AfxMessageBox(refused.c_str());
+    return refused.empty();
+}
+
 void CFindDlg::OnOK() {
     CWnd *editor = m_target();
     if (m_running || editor == nullptr || GetDlgItem(IDC_FIND_TEXT)->GetWindowTextLength() == 0)
+        return;
+    if (!CanBeSearched())
         return;
     Store();
     m_data.SetData(TextOf(GetDlgItem(IDC_FIND_TEXT)), TextOf(GetDlgItem(IDC_REPLACE_TEXT)),

@@ -35,6 +35,7 @@ private:
     static void Remember(CWnd *list, const char *section);
     int ScopeDirection() const;
     void EnableWish(bool enable);
+    bool CanBeSearched();
 
     Target m_target;
     bool m_replace = false;

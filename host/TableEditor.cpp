@@ -5,6 +5,7 @@
 
 BEGIN_MESSAGE_MAP(CTableEditor, COrvaneEditor)
     ON_WM_CONTEXTMENU()
+    ON_MESSAGE(kMsgFindNext, OnFindNext)
 END_MESSAGE_MAP()
 
 namespace {

@@ -25,6 +25,9 @@ public:
     // the cell that is wrong becomes the current one.
     void CompileLookupTable();
 
+    // Repeats the last search; one in the selected cells goes on in the block that was selected then.
+    void FindAgain();
+
     int OnCanMove(int oldCol, long oldRow, int newCol, long newRow) override;
     void OnRClicked(int col, long row, int updn, RECT *rect, POINT *point, int processed) override;
     void OnTH_RClicked(int col, int updn) override;
@@ -36,9 +39,24 @@ public:
 protected:
     DECLARE_MESSAGE_MAP()
     afx_msg void OnContextMenu(CWnd *window, CPoint point);
+    afx_msg LRESULT OnFindNext(WPARAM data, LPARAM);
 
 private:
     enum class Menu { Cells, Columns, Records }; // in the order of the resource's popups
+
+    // The cells of a search in the selection, which uses the selection up.
+    struct SearchedBlock {
+        int left = 0, right = -1;
+        long top = 0, bottom = -1;
+        bool fromStart = true; // the next search begins at its first cell
+    };
+
+    bool SearchesBlock(const CFindReplaceData &data);
+    bool NextInBlock(int *col, long *row) const;
+    void GoOnInBlock();
+    bool FindInBlock(const CFindReplaceData &data, bool *stopped);
+
+    SearchedBlock m_block;
 
     void ShowMenuByKey();
     void ShowMenu(Menu menu, CPoint screen);

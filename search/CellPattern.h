@@ -1,8 +1,8 @@
 // CellPattern: a pattern compiled once and tried on the texts of many cells.
 //
-// A text that cannot match, because a piece of it that the pattern needs is missing or because no order of its
-// characters leads through the pattern, is told apart without the regular expression; the answer is the same. What is
-// learnt in doing so is kept, so a pattern serves one thread at a time.
+// A text that cannot match, because no order of its characters leads through the pattern, is told apart
+// without the regular expression; the answer is the same. What is learnt in doing so is kept, so a pattern
+// serves one thread at a time.
 #pragma once
 
 #include <memory>
@@ -18,14 +18,12 @@ public:
     CellPattern(const CellPattern &) = delete;
     CellPattern &operator=(const CellPattern &) = delete;
 
-    // Does the pattern fit the whole text? A match that would take without end is given up and counts as none.
+    // Does the pattern fit the whole text? A match that would take without end is given up and counts as
+    // none.
     bool Matches(const char *text, size_t length) const;
     bool Matches(const std::string &text) const { return Matches(text.data(), text.size()); }
     // The text with its first match replaced after the format; false, and no text, where nothing matches.
     bool ReplaceFirst(const std::string &text, const std::string &format, std::string *replaced) const;
-
-    // A piece that every text must hold that matches; empty when none is known. For tests.
-    const std::string &Needed() const;
 
 private:
     struct Compiled;

@@ -20,6 +20,8 @@ enum class Between {
     LineEnd,
     WordEdge,
     NoWordEdge,
+    WordStart,
+    WordEnd,
     NotAfterWord,
     NotBeforeWord
 };

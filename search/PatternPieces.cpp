@@ -190,7 +190,11 @@ private:
             return ReadCode();
         m_at += 2;
         switch (c) {
-        case 'A': return Fixed(Condition(Between::TextStart));
+        case 'A':
+        case '`': return Fixed(Condition(Between::TextStart));
+        case '<': return Fixed(Condition(Between::WordStart));
+        case '>': return Fixed(Condition(Between::WordEnd));
+        case '\'':
         case 'z': return Fixed(Condition(Between::TextEnd));
         case 'Z': return Fixed(Condition(Between::LineEnd)); // the line breaks at the end may stand behind
         case 'b': return Fixed(Condition(Between::WordEdge));
@@ -199,9 +203,7 @@ private:
         case 'Q': return ReadQuoted();
         default: break;
         }
-        const bool literal =
-            std::string("<>`'").find(c) == std::string::npos && std::ispunct(static_cast<unsigned char>(c));
-        return literal ? OneOf(m_sets->Of(c)) : Unknown();
+        return std::ispunct(static_cast<unsigned char>(c)) ? OneOf(m_sets->Of(c)) : Unknown();
     }
     Piece ReadQuoted() {
         Piece sequence;

@@ -47,6 +47,8 @@ bool PatternScreen::Holds(Between condition, Side before, Side after) const {
     case Between::LineEnd: return after == kEdge || after == kLineBreak;
     case Between::WordEdge: return (before == kWord) != (after == kWord);
     case Between::NoWordEdge: return (before == kWord) == (after == kWord);
+    case Between::WordStart: return before != kWord && after == kWord;
+    case Between::WordEnd: return before == kWord && after != kWord;
     case Between::NotAfterWord: return before != kWord;
     default: return after != kWord;
     }

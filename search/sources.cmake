@@ -1,6 +1,6 @@
 # Patterns over texts; no window and nothing of the grid.
 set(SEARCH_SOURCES CellPattern.cpp CharSets.cpp ClassEnd.cpp KeptPatterns.cpp PatternGraph.cpp PatternPieces.cpp
-    PatternScreen.cpp PatternText.cpp RequiredText.cpp)
+    PatternScreen.cpp PatternText.cpp TypedFormat.cpp TypedRegex.cpp WrappedPattern.cpp)
 list(TRANSFORM SEARCH_SOURCES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
 
 # The expression library is headers alone. A cross compiler must not see the folder that they stand in, which holds the

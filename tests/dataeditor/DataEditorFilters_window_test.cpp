@@ -108,9 +108,37 @@ TEST_F(DataEditorFiltersTest, WithNothingFurtherThatPassesTheCellStays) {
     last.GotoCell(1, 7);
     Key(last, VK_UP);
     Key(last, VK_DOWN);
-    Key(last, VK_TAB, 9);
+    Key(last, VK_RETURN, 13);
     EXPECT_EQ("1,7", last.At());
     EXPECT_EQ(8, m_source->GetNumRows());
+}
+
+TEST_F(DataEditorFiltersTest, ATabAfterTheLastRecordAppendsOneWhereThatPasses) {
+    for (const bool enter : {false, true}) {
+        for (const bool editing : {false, true}) {
+            CEditorCore::SetEnterKey(enter);
+            const auto press = [&](TestDataEditor &editor) {
+                const UINT key = enter ? VK_RETURN : VK_TAB;
+                if (editing)
+                    editor.StartEdit();
+                if (editing)
+                    SendKey(editor.Edit(), key);
+                else
+                    Key(editor, key, enter ? 13 : 9);
+                return editor.At() + " of " + std::to_string(m_source->GetNumRows());
+            };
+            TestDataEditor &passing = OpenFiltered(2, 5, {1, 5});
+            passing.GotoCell(1, 4);
+            EXPECT_EQ("0,5 of 6", press(passing)) << enter << editing;
+            TestDataEditor &leftOut = OpenFiltered(2, 5, {1, 3});
+            leftOut.GotoCell(1, 4);
+            EXPECT_EQ("1,4 of 5", press(leftOut)) << enter << editing;
+            TestDataEditor &before = OpenFiltered(2, 5, {1, 3});
+            before.GotoCell(1, 2);
+            EXPECT_EQ("1,2 of 5", press(before)) << enter << editing;
+        }
+    }
+    CEditorCore::SetEnterKey(false);
 }
 
 TEST_F(DataEditorFiltersTest, TabWrapsToTheNextRecordThatPasses) {
@@ -190,13 +218,18 @@ TEST_F(DataEditorFiltersTest, GotoRecordAndItsOvershoot) {
 
 TEST_F(DataEditorFiltersTest, FilteredRecordsAreDeletedAsAWholeAfterAQuestion) {
     TestDataEditor &editor = OpenFiltered(2, 5, {1, 4});
-    TestApp().Answer({IDNO, IDYES});
+    TestApp().Answer({IDNO, IDCANCEL, IDYES});
     editor.OnDeleteRows();
     EXPECT_EQ("Delete filtered records?\n\n(You will not be able to undo this operation)|36", TestApp().TakeBoxes());
+    editor.OnDeleteRows(); // Escape closes the question under some systems
+    TestApp().TakeBoxes();
     EXPECT_EQ("", m_log.Take());
+    EXPECT_EQ(5, editor.GetNumberRows());
+    m_host.TakeMessages();
     editor.OnDeleteRows();
     EXPECT_EQ("Delete filtered records?\n\n(You will not be able to undo this operation)|36", TestApp().TakeBoxes());
     EXPECT_NE(std::string::npos, m_log.Take().find("src.DeleteRows(-1,-1)"));
+    EXPECT_NE(std::string::npos, m_host.TakeMessages().find("1049(1,0)"));
     EXPECT_EQ(3, editor.GetNumberRows());
     EXPECT_EQ("0.1", m_source->Text(0, 0));
     EXPECT_NE(0, editor.m_GI.m_paintingEnabled);

@@ -1,6 +1,9 @@
 // Loading, saving, the file's view, greyed records and texts from outside.
 #include "DataEditorTest.h"
 
+#include <cstdio>
+#include <set>
+
 namespace {
 
 class DataEditorFrameTest : public DataEditorTest {
@@ -171,6 +174,70 @@ TEST_F(DataEditorFrameTest, OneNewUnnamedFieldRebuildsTheLayout) {
     EXPECT_EQ(4, editor.GetNumberCols());
 }
 
+TEST_F(DataEditorFrameTest, TwoNewFieldsRebuildTheLayout) {
+    TestDataEditor &editor = OpenEditor(3, 2);
+    editor.GotoCell(1, 0);
+    editor.OnHideCols();
+    for (const char *name : {"NEW", "NEWER"}) {
+        m_source->m_fields.push_back(name);
+        for (auto &row : m_source->m_rows)
+            row.push_back("n");
+    }
+    editor.ResetFileView(false);
+    EXPECT_EQ(5, editor.GetNumberCols());
+}
+
+TEST_F(DataEditorFrameTest, SavingGoesToTheSourceAndTheTitle) {
+    TestDataEditor &editor = OpenEditor(2, 2);
+    editor.StartEdit();
+    ::SetWindowTextA(editor.Edit(), "typed");
+    m_log.Take();
+    editor.OnSave();
+    EXPECT_NE(std::string::npos, m_log.Take().find("src.Save()"));
+    EXPECT_EQ("typed", m_source->Text(0, 0));
+}
+
+TEST_F(DataEditorFrameTest, TheHostShowsTheInformationOnTheSource) {
+    TestDataEditor &editor = OpenEditor(2, 2);
+    editor.OnFileInformation();
+    EXPECT_EQ("FileInformation", m_log.Take());
+    EXPECT_EQ(m_source, m_service.m_informed);
+    MakeEditor().OnFileInformation();
+    EXPECT_EQ("", m_log.Take());
+}
+
+TEST_F(DataEditorFrameTest, FlushingWritesWhatTheRuntimeHolds) {
+    const std::string path = MakeFile("stream", "");
+    FILE *stream = std::fopen(path.c_str(), "w");
+    ASSERT_NE(nullptr, stream);
+    std::fputs("held", stream);
+    EXPECT_EQ("", Content(path));
+    OpenEditor(2, 2).FlushAll();
+    EXPECT_EQ("held", Content(path));
+    std::fclose(stream);
+}
+
+TEST_F(DataEditorFrameTest, AClickEndsASelectionOfSeveralCells) {
+    TestDataEditor &editor = OpenEditor(3, 4);
+    editor.ClearSelections();
+    editor.SelectRange(0, 0, 1, 2);
+    ASSERT_TRUE(editor.IsInMultipleSelection());
+    RECT rect{};
+    POINT point{};
+    editor.OnLClicked(2, 3, 1, &rect, &point, 0);
+    EXPECT_FALSE(editor.IsInMultipleSelection());
+}
+
+TEST_F(DataEditorFrameTest, ARowThatIsToBeRefreshedIsPaintedAgain) {
+    TestDataEditor &editor = OpenFiltered(2, 5, {1, 2, 3});
+    PumpAll();
+    m_source->m_rowsRead.clear();
+    EXPECT_EQ(0, ::SendMessageA(editor.m_hWnd, kMsgRefreshRow, 0, 3));
+    ::UpdateWindow(editor.Cells());
+    ASSERT_FALSE(m_source->m_rowsRead.empty());
+    EXPECT_EQ(std::set<long>{3}, std::set<long>(m_source->m_rowsRead.begin(), m_source->m_rowsRead.end()));
+}
+
 TEST_F(DataEditorFrameTest, AFullResetThrowsTheLayoutFileAway) {
     const std::string path = MakeFile("t.dat");
     TestDataEditor &editor = MakeEditor();
@@ -203,8 +270,16 @@ TEST_F(DataEditorFrameTest, TypesTwoToFiveAreNumeric) {
 
 TEST_F(DataEditorFrameTest, TextIsEnteredFromOutside) {
     TestDataEditor &editor = OpenEditor(2, 2);
-    editor.EnterEditText("quick", 0, 0, true);
-    editor.EnterEditText("plain", 1, 1, false);
+    const auto readsOf = [this](const auto &work) {
+        m_source->m_reads = 0;
+        work();
+        return m_source->m_reads;
+    };
+    CUGCell cell;
+    const long quick = readsOf([&] { editor.QuickSetText(0, 0, "q"); });
+    const long plain = readsOf([&] { editor.GetCell(1, 1, &cell); });
+    EXPECT_EQ(quick + plain, readsOf([&] { editor.EnterEditText("quick", 0, 0, true); })); // the present text first
+    EXPECT_EQ(plain + plain, readsOf([&] { editor.EnterEditText("plain", 1, 1, false); }));
     EXPECT_EQ("quick|plain", m_source->Text(0, 0) + "|" + m_source->Text(1, 1));
     EXPECT_EQ("1049(1,0) 1049(1,0)", m_host.TakeMessages());
 }
@@ -213,9 +288,11 @@ TEST_F(DataEditorFrameTest, AChoiceOfAPickListSettlesBeforeTheGridGoesOn) {
     TestDataEditor &editor = OpenEditor(3, 5);
     editor.GotoCell(1, 2);
     ::PostMessageA(editor.Cells(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    ::PostMessageA(editor.Cells(), WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
+    ::PostMessageA(editor.Cells(), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
     editor.EnterPickListText("picked");
     EXPECT_EQ("picked", m_source->Text(1, 2));
-    EXPECT_NE(0u, editor.Timer());
+    EXPECT_EQ(300u, editor.Timer());
     EXPECT_EQ(0, editor.m_GI.m_paintingEnabled);
     editor.GotoCell(0, 0);
     ::PostMessageA(editor.Cells(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
@@ -225,6 +302,17 @@ TEST_F(DataEditorFrameTest, AChoiceOfAPickListSettlesBeforeTheGridGoesOn) {
     EXPECT_NE(0, editor.m_GI.m_paintingEnabled);
     PumpAll();
     EXPECT_EQ("1,2", editor.At());
+    EXPECT_EQ(0, editor.m_clicks);
+}
+
+TEST_F(DataEditorFrameTest, TheSettlingTakesAboutAHundredAndFiftyMilliseconds) {
+    TestDataEditor &editor = OpenEditor(3, 5);
+    const ULONGLONG begin = ::GetTickCount64();
+    editor.EnterPickListText("picked");
+    PumpUntil("the timer of the settling", [&] { return editor.Timer() == 0; });
+    const ULONGLONG passed = ::GetTickCount64() - begin;
+    EXPECT_GE(passed, 130u);
+    EXPECT_LE(passed, 1000u);
 }
 
 TEST_F(DataEditorFrameTest, ATimerOfAnotherLeavesTheSettlingAlone) {

@@ -255,7 +255,53 @@ TEST_F(DataEditorReplaceTest, ADollarInFrontOfBothIsRepeatModeAndLeavesTheReplac
     TestDataEditor &editor = OpenColumn({"", "x"});
     WithDialog act([](HWND dialog) { ::SendMessageA(dialog, WM_COMMAND, kAll, 0); }, true);
     editor.DoReplace(0, "$", "$new", "$", kSearchDown, true);
-    EXPECT_EQ("new,x", Column()); // one replacement a cell, at the most
+    EXPECT_EQ("new,x", Column());
+}
+
+// What is left after the replacement would match once more.
+TEST_F(DataEditorReplaceTest, RepeatModeReplacesOnceACell) {
+    const char *const find = "$|a|aa|aaaa";
+    TestDataEditor &editor = OpenColumn({"aaaa", "a"});
+    WithDialog act([](HWND dialog) { ::SendMessageA(dialog, WM_COMMAND, kAll, 0); }, true);
+    editor.DoReplace(0, find, "$b", find, kSearchDown, true);
+    EXPECT_EQ("baaa,b", Column());
+    EXPECT_NE(std::string::npos, m_log.Take().find("Message(Found and replaced 2 string(s).)"));
+}
+
+TEST_F(DataEditorReplaceTest, TheSecondPassOfRepeatModeOnlyTellsThatThereWasAMatch) {
+    const char *const find = "$|a|aa|aaaa";
+    const auto replace = [&](bool repeat) {
+        TestDataEditor &editor = OpenColumn({"aaaa"});
+        int answer = 0, count = 0;
+        bool matched = false, replaced = false;
+        EXPECT_TRUE(editor.ReplaceCellStringIfMatch(0, 0, find, "b", true, repeat, true, &answer, &matched, &replaced, &count));
+        return Column() + " " + std::to_string(matched) + std::to_string(replaced) + std::to_string(count);
+    };
+    EXPECT_EQ("baaa 111", replace(false));
+    EXPECT_EQ("baaa 101", replace(true));
+}
+
+TEST_F(DataEditorReplaceTest, EachConfirmedReplacementIsTold) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat", "cat"});
+    m_host.TakeMessages();
+    Replace(editor, "cat", "cow", {kYes, kNo, kYes});
+    std::string told;
+    const std::string messages = m_host.TakeMessages();
+    for (size_t at = 0; (at = messages.find("1049(1,0)", at)) != std::string::npos; ++at)
+        told += "x";
+    EXPECT_EQ("xx", told) << messages;
+}
+
+// The prescribed message says which cell; the host is told besides how far it came and where it stopped.
+TEST_F(DataEditorReplaceTest, ACellThatCannotBeSetTellsHowManyWereReplacedBeforeIt) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat", "dog", "cat", "cat"});
+    m_source->m_onSetCell = [](int, long row) { return row == 3 ? GRID_ERROR : GRID_SUCCESS; };
+    Replace(editor, "cat", "cow", {kAll});
+    EXPECT_EQ("Could not set text in cell 0, 3!|16", TestApp().TakeBoxes());
+    EXPECT_EQ("cow,cow,dog,cat,cat", Column());
+    const std::string calls = Join(m_log.m_calls);
+    EXPECT_NE(std::string::npos, calls.find("Message(Replaced 2 string(s); stopped at record 4, field F0.)")) << calls;
+    EXPECT_EQ("[xxx]", Transactions());
 }
 
 TEST_F(DataEditorReplaceTest, ADollarInFrontOfOneOfThemIsKept) {

@@ -20,6 +20,11 @@ public:
     std::string At() { return std::to_string(GetCurrentCol()) + "," + std::to_string(GetCurrentRow()); }
     int OnCanMove(int, long, int, long) override { return m_canMove; }
     bool m_canMove = true;
+    void OnLClicked(int col, long row, int updn, RECT *rect, POINT *point, int processed) override {
+        ++m_clicks;
+        COrvaneEditor::OnLClicked(col, row, updn, rect, point, processed);
+    }
+    int m_clicks = 0;
     void OnFileModify() override {
         m_log->Note("FileModify");
         COrvaneEditor::OnFileModify();

@@ -4,7 +4,7 @@ import hostdriver
 import sessions
 from sessions import MESSAGE, RECORD, records
 
-FIND, REPLACE, COUNT = 1140, 1142, 1001  # controls of the dialogs
+FIND, REPLACE, REGEX, COUNT = 1140, 1142, 1150, 1001  # controls of the dialogs
 LAST_NAME = 2
 
 
@@ -40,11 +40,38 @@ class Find(sessions.Session):
         self.host.keys("F3")
         self.await_record(found[2])
 
+    def test_a_search_in_the_selected_cells_goes_on_in_them(self):
+        found = self.numbers_of("Ebner")
+        self.host.keys("ctrl+a")
+        self.dialog("ctrl+f", "Find")
+        self.host.type("ebn?r")
+        for number in found:
+            self.host.keys("Return")
+            self.await_record(number)
+        self.host.keys("Escape")
+        self.host.await_no_window(id=FIND)
+        self.host.keys("F3")
+        self.host.await_window(text="The selected cells have been searched to their end.")
+        self.host.keys("Return")
+        self.host.await_no_message()
+        self.host.keys("F3")
+        self.await_record(found[0])
+
     def test_a_search_without_a_match_says_so_and_moves_nothing(self):
         self.dialog("ctrl+f", "Find")
         self.host.type("no such name")
         self.host.keys("Return")
         self.host.await_message()
+        self.host.keys("Return")
+        self.host.await_no_message()
+        self.await_record(1)
+
+    def test_an_expression_that_cannot_be_searched_says_why(self):
+        self.dialog("ctrl+f", "Find")
+        self.host.type(r"Eb\Kner")
+        self.host.click_window(id=REGEX)
+        self.host.keys("Return")
+        self.host.await_window(text=r"\K cannot be used here: what is found cannot begin later than its match.")
         self.host.keys("Return")
         self.host.await_no_message()
         self.await_record(1)

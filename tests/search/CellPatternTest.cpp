@@ -1,8 +1,5 @@
 #include "search/CellPattern.h"
 #include "search/PatternText.h"
-#include "search/RequiredText.h"
-
-#include "SeededRandom.h"
 
 #include <gtest/gtest.h>
 
@@ -59,54 +56,8 @@ TEST(CellPattern, OnlyTheFirstMatchIsReplaced) {
     EXPECT_EQ("axab", replaced);
 }
 
-TEST(RequiredText, TheLongestRunThatEveryMatchHolds) {
-    EXPECT_EQ("hello", RequiredText("\\A(?<_before>.*?)(hello)(?<_after>.*)"));
-    EXPECT_EQ("lo.x", RequiredText("\\A(a.*?lo\\.x)\\z"));
-    EXPECT_EQ("wor", RequiredText("wor?wor"));
-    EXPECT_EQ("abc", RequiredText("abc+de*"));
-    EXPECT_EQ("cat", RequiredText("\\A(?<_before>.*?)(?<!\\w)(cat)(?!\\w)(?<_after>.*)"));
-    EXPECT_EQ("cat", RequiredText("\\`\\<cat\\>\\'"));
-}
-
-TEST(RequiredText, WhereTheMeaningIsNotPlainThereIsNone) {
-    for (const char *pattern : {"a|b", "(ab)?", "(ab)*c", "x(ab)+c", "[ab]c", "(?i)abc", "a{0}bc", "\\x41bc", "(?=a)b", "\\Qab\\E", ""})
-        EXPECT_EQ("", RequiredText(pattern)) << pattern;
-}
-
-std::string RandomGroups(SeededRandom *random, int depth) {
-    static const char *const letters[] = {"a", "b"};
-    static const char *const quantifiers[] = {"", "", "", "+", "+", "+?", "*"};
-    std::string sequence;
-    for (int i = random->Between(1, 3); i > 0; --i) {
-        const bool group = depth > 0 && random->OneIn(2);
-        sequence += group ? "(" + RandomGroups(random, depth - 1) + ")" : std::string(random->Of(letters));
-        sequence += random->Of(quantifiers);
-    }
-    return sequence;
-}
-
-TEST(RequiredText, WhatIsNeededStandsInEveryTextThatRandomGroupsFit) {
-    SeededRandom random(5);
-    int matches = 0;
-    for (int i = 0; i < 4000; ++i) {
-        const std::string pattern = RandomGroups(&random, 1);
-        const std::string needed = RequiredText(pattern);
-        const boost::regex plain(pattern);
-        for (int each = 0; !needed.empty() && each < 100; ++each) {
-            std::string text;
-            for (int length = random.Between(0, 7); length > 0; --length)
-                text += random.OneIn(2) ? 'a' : 'b';
-            if (!boost::regex_match(text, plain))
-                continue;
-            ++matches;
-            ASSERT_NE(std::string::npos, text.find(needed)) << pattern << " needs " << needed << " in " << text;
-        }
-    }
-    EXPECT_GT(matches, 200);
-}
-
 // What is told without the expression is what the expression says.
-TEST(RequiredText, TheAnswerIsTheExpressions) {
+TEST(CellPattern, TheAnswerIsTheExpressions) {
     const char *const typed[] = {"a", "ab", "a*b", "?", "#", "a#", "b?a", "\\*", "A", "ab*", "*b", "a.b"};
     const char *const texts[] = {"", "a", "ab", "aab", "b a", "A", "AB", "*", "1", "a1", "bxa", "a.b", "axb", "b"};
     for (const char *find : typed) {

@@ -107,11 +107,20 @@ public:
         *number = m_filterChosen;
         return m_filterAnswer;
     }
-    void DoWaitCursor(int step) override { m_log->Note("Wait(" + std::to_string(step) + ")"); }
+    void ShowFileInformation(CUGDataSource *source) override {
+        m_log->Note("FileInformation");
+        m_informed = source;
+    }
+    void DoWaitCursor(int step) override {
+        m_waits += step;
+        m_log->Note("Wait(" + std::to_string(step) + ")");
+    }
     void ShowMessage(const char *text) override { m_log->Note(std::string("Message(") + text + ")"); }
 
     RecordingOptions m_options;
     std::deque<CUGDataSource *> m_sources;
+    CUGDataSource *m_informed = nullptr; // of the last ShowFileInformation
+    int m_waits = 0; // begun and not ended
     int m_abort = 0;
     long m_looks = 0;       // CheckAbort calls
     long m_abortAtLook = 0; // from this one on the answer is to stop; 0 for m_abort alone

@@ -119,7 +119,9 @@ int RecordingSource::GetCell(int col, long row, CUGCell *cell) {
 
 int RecordingSource::SetCell(int col, long row, CUGCell *cell) {
     const std::string where = std::to_string(col) + "," + std::to_string(row);
-    const int result = Done("SetCell", where + "," + cell->GetText());
+    int result = Done("SetCell", where + "," + cell->GetText());
+    if (result == GRID_SUCCESS && m_onSetCell)
+        result = m_onSetCell(col, row);
     if (result == GRID_SUCCESS && row < GetNumRows() && col < GetNumCols())
         m_rows[row][col] = cell->GetText();
     return result;
@@ -146,6 +148,7 @@ int RecordingSource::FindNext(int col, const char *text, long *row) {
 }
 
 int RecordingSource::SetOption(int option, long value1, long) {
+    ++m_optionsSet;
     return Done("SetOption", std::to_string(option) + "," + std::to_string(value1));
 }
 
@@ -174,9 +177,11 @@ int RecordingSource::RequestMoreRows(long rowCount, long wanted, long *found) {
 
 void RecordingSource::StartTransaction() {
     Done("StartTransaction", "");
+    ++m_openTransactions;
 }
 
 void RecordingSource::EndTransaction() {
+    --m_openTransactions;
     Done("EndTransaction", "");
 }
 

@@ -61,9 +61,12 @@ public:
     bool m_writable = true;
     bool m_answersWritable = true;        // whether option 7 is known at all
     std::map<std::string, int> m_results; // by operation's name: what it answers instead, having done nothing
+    int m_openTransactions = 0;
+    int m_optionsSet = 0;               // SetOption calls
     long m_reads = 0;                     // GetCell calls
     std::vector<long> m_rowsRead;         // of those of cells, not of the side heading
     std::function<bool(long)> m_passes; // whether a record, 1-based, passes the filter; empty: it cannot be told
+    std::function<int(int, long)> m_onSetCell; // what writing a column and row answers; empty: success
     std::vector<int> m_types;           // by column; 0 where there is none
     long m_growsBy = -1;                  // rows that RequestMoreRows reports; below 0 it is not supported
 
