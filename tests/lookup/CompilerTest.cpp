@@ -49,16 +49,18 @@ TEST_F(CompilerTest, TheTableStandsBesideTheSource) {
     const auto nameOf = [&](const char *path) {
         TextSource source(path, 2, {});
         m_compiler.AttachDataSource(&source);
+        name = "before";
         m_compiler.GetLookupFileName(name);
         m_compiler.DetachDataSource();
         return std::string(name);
     };
     EXPECT_EQ(nameOf("C:\\data\\codes.dat"), "codes.lbn");
     EXPECT_EQ(nameOf("C:\\data\\codes.old.dat"), "codes.old.lbn");
-    EXPECT_EQ(nameOf("codes.dat"), "codes.lbn");
-    EXPECT_EQ(nameOf("\\codes.dat"), "\\codes.lbn"); // the separator is the first character
+    // Without a folder, or with the separator as the first character, the caller's name stays.
+    EXPECT_EQ(nameOf("codes.dat"), "before");
+    EXPECT_EQ(nameOf("\\codes.dat"), "before");
     EXPECT_EQ(nameOf("C:\\data\\codes"), "codes.lbn");
-    EXPECT_EQ(nameOf(".dat"), ".dat.lbn");
+    EXPECT_EQ(nameOf(".dat"), "before");
     EXPECT_EQ(nameOf("C:\\data.old\\codes.dat"), "codes.lbn");
     EXPECT_EQ(nameOf("C:\\data.old\\codes"), "data.lbn"); // the last dot is the folder's
 }
