@@ -150,6 +150,18 @@ TEST_F(MenuTreeTest, TheFullCodeLeavesOutNoCode) {
     EXPECT_STREQ(text, "AB");
 }
 
+// Only the code "!" itself stands for none; one that begins so has no display code, and yet is part of what is below it.
+TEST_F(MenuTreeTest, TheFullCodeHasCodesThatOnlyBeginWithAnExclamationMark) {
+    CMenuTree *begins = Insert(*Insert(m_root, "AB"), "!x");
+    CMenuTree *leaf = Insert(*begins, "12");
+    CString text;
+    leaf->GetFullCode(text);
+    EXPECT_STREQ(text, "AB!x12");
+    text.Empty();
+    begins->GetFullCode(text, 0);
+    EXPECT_STREQ(text, "AB!x12");
+}
+
 TEST_F(MenuTreeTest, CollectPathsGoesDownToEachLeafWithTheRawCodes) {
     CMenuTree *a = Insert(m_root, "A");
     Insert(*a, "2");
