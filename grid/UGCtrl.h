@@ -241,6 +241,9 @@ public:
     int StartEdit(int key);
     int EditContinue(int dx, int dy);
     CEdit *GetEditControl();
+    // What SetCell answered when the text of the last edit was written: where it failed the source has its own text
+    // still, which the cell shows. OnEditContinue may ask, and keep the edit where it is.
+    int GetEditResult() const { return m_grid.m_edit.m_result; }
 
     // --- Cell types. Added types are borrowed.
     CUGCellType *GetCellType(int id);

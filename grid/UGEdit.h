@@ -21,6 +21,7 @@ public:
     void Show(int key);
 
     bool m_active = false; // a finish is still owed
+    int m_result = 0;      // of the last write, a GRID_ code
     CPoint m_inset;        // from the cell's corner to the box, pixels
 
 private:
@@ -35,6 +36,8 @@ private:
     afx_msg void OnUpdateText();
 
     int Finish();
+    bool AskFinish(int col, long row);
+    void Write(int col, long row);
     void FinishAndContinue(int dx, int dy);
     bool PassMask(char character);
     void Reformat();
@@ -43,4 +46,5 @@ private:
     CUGEditMask m_mask;
     bool m_maskBusy = false;   // the mask code itself is changing the text
     bool m_focusSeen = false;
+    bool m_finishing = false;  // OnEditFinish is being asked: the box stays, whoever takes the focus
 };

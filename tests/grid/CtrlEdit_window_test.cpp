@@ -273,6 +273,105 @@ TEST_F(CtrlEditTest, TabAndEnterAsCharactersAreAskedAndSwallowed) {
     SendChar(m_grid.Edit(), 9);
     SendChar(m_grid.Edit(), 13);
     EXPECT_EQ("EditVerify(0,0,9) EditVerify(0,0,13)", m_grid.Take());
+// As a box of the host does: it takes the focus, and gives it to the window below it when it goes.
+TEST_F(CtrlEditTest, AFinishThatShowsABoxWritesWhatWasTyped) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    Type("x");
+    m_grid.m_onEditFinish = [&] { m_host.SetFocus(); };
+    m_grid.Take();
+    ::SendMessageA(m_grid.Edit(), WM_KEYDOWN, VK_RETURN, 1);
+    m_grid.m_onEditFinish = nullptr;
+    EXPECT_EQ("EditVerify(-1,-1,13) EditFinish(0,0) SetCell(0,0) EditContinue(0,0,1,0) CanMove(0,0,1,0) "
+              "ColChange(0,1) CellChange(0,1,0,0) EditStart(1,0)",
+              m_grid.Take());
+    EXPECT_EQ("x", m_source->Text(0, 0));
+    EXPECT_EQ("1.0", EditText());
+    EXPECT_EQ(m_grid.Edit(), ::GetFocus());
+}
+
+TEST_F(CtrlEditTest, AFinishThatShowsABoxAndRefusesGivesTheFocusBackToTheText) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    Type("x");
+    m_grid.m_vetoes = {"EditFinish"};
+    m_grid.m_onEditFinish = [&] { m_host.SetFocus(); };
+    Key(VK_RETURN);
+    EXPECT_EQ("x", EditText());
+    EXPECT_EQ(m_grid.Edit(), ::GetFocus());
+    EXPECT_EQ("0.0", m_source->Text(0, 0));
+    m_grid.m_vetoes.clear();
+    Key(VK_RETURN);
+    m_grid.m_onEditFinish = nullptr;
+    EXPECT_EQ("x", m_source->Text(0, 0));
+}
+
+TEST_F(CtrlEditTest, ABoxThatGoesWhileItIsAskedWritesNothing) {
+    Fill(3, 5);
+    m_grid.GotoCell(1, 4);
+    m_grid.StartEdit();
+    Type("x");
+    m_grid.m_onEditFinish = [&] { m_grid.SetNumberRows(3); };
+    m_grid.Take();
+    Key(VK_RETURN);
+    m_grid.m_onEditFinish = nullptr;
+    EXPECT_EQ("closed", EditText());
+    EXPECT_EQ(std::string::npos, m_grid.Take().find("SetCell"));
+    EXPECT_EQ("1.4", m_source->Text(1, 4));
+}
+
+TEST_F(CtrlEditTest, AnotherEditThatTheFinishStartsStaysAndNothingIsWritten) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    Type("x");
+    m_grid.m_onEditFinish = [&] {
+        m_grid.m_onEditFinish = nullptr;
+        m_grid.GotoCell(2, 3);
+        m_grid.StartEdit();
+    };
+    Key(VK_RETURN);
+    EXPECT_EQ("2.3", EditText());
+    EXPECT_EQ("0.0", m_source->Text(0, 0));
+    EXPECT_EQ("2.3", m_source->Text(2, 3));
+    Type("y");
+    Key(VK_RETURN);
+    EXPECT_EQ("y", m_source->Text(2, 3));
+}
+
+TEST_F(CtrlEditTest, AnEditOfALostFocusThatShowsABoxIsAskedOnce) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    Type("x");
+    m_grid.Take();
+    m_grid.m_onEditFinish = [&] {
+        ::SetFocus(m_grid.Edit()); // the box gives the focus to where it was
+        m_host.SetFocus();
+    };
+    m_host.SetFocus();
+    m_grid.m_onEditFinish = nullptr;
+    EXPECT_EQ("EditFinish(0,0) SetCell(0,0)", m_grid.Take());
+    EXPECT_EQ("x", m_source->Text(0, 0));
+    EXPECT_EQ("closed", EditText());
+}
+
+TEST_F(CtrlEditTest, ARefusedWriteIsToldAndTheCellShowsWhatTheSourceHas) {
+    Fill(3, 5);
+    m_source->m_results = {{"SetCell", 1}};
+    m_grid.StartEdit();
+    Type("x");
+    int told = -1;
+    m_grid.m_onEditContinue = [&](int *, long *) { told = m_grid.GetEditResult(); };
+    Key(VK_RETURN);
+    EXPECT_EQ(GRID_ERROR, told);
+    EXPECT_EQ("0.0", m_grid.Text(0, 0));
+    m_source->m_results.clear();
+    Type("y");
+    Key(VK_RETURN);
+    m_grid.m_onEditContinue = nullptr;
+    EXPECT_EQ(GRID_SUCCESS, told);
+    EXPECT_EQ("y", m_grid.Text(1, 0));
+}
+
     EXPECT_EQ("0.0", EditText());
 }
 
