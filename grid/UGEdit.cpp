@@ -124,22 +124,22 @@ void CUGEdit::OnKeyUp(UINT key, UINT, UINT) {
         Default();
 }
 
-// Clears the selection and puts a literal in front of the character where one belongs. False refuses it.
+// Clears the selection and passes the literals that stand or belong where the caret is. False refuses the character,
+// and puts nothing in.
 bool CUGEdit::PassMask(char character) {
     SendMessage(WM_CLEAR, 0, 0);
     int start, end;
     GetSel(start, end);
-    if (start >= m_mask.Length())
+    CString text;
+    GetWindowText(text);
+    const CUGEditMask::Place place = m_mask.PlaceOf(static_cast<const char *>(text), start);
+    if (!m_mask.Accepts(place.position, character))
         return false;
-    if (const char literal = m_mask.LiteralAt(start)) {
-        m_maskBusy = true;
+    SetSel(start + place.passed, start + place.passed);
+    const CUGValueScope<bool> busy(&m_maskBusy, true);
+    for (const char literal : place.missing)
         SendMessage(WM_CHAR, static_cast<unsigned char>(literal), 0);
-        m_maskBusy = false;
-        ++start;
-        if (start >= m_mask.Length())
-            return false;
-    }
-    return m_mask.Accepts(start, character);
+    return true;
 }
 
 void CUGEdit::OnChar(UINT key, UINT, UINT) {
@@ -204,8 +204,7 @@ void CUGEdit::Reformat() {
         return;
     int start, end;
     GetSel(start, end);
-    m_maskBusy = true;
+    const CUGValueScope<bool> busy(&m_maskBusy, true);
     SetWindowText(formatted.c_str());
     SetSel(start, end);
-    m_maskBusy = false;
 }

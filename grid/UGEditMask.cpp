@@ -57,6 +57,19 @@ std::string CUGEditMask::Reformat(const std::string &text) const {
     size_t next = 0;
     for (int position = 0; position < Length() && next < text.size();) {
         if (const char literal = LiteralAt(position)) {
+CUGEditMask::Place CUGEditMask::PlaceOf(const std::string &text, int caret) const {
+    Place place{caret, 0, {}};
+    for (; const char literal = LiteralAt(place.position); ++place.position) {
+        const bool stands = place.missing.empty() && static_cast<size_t>(place.position) < text.size() &&
+                            text[place.position] == literal;
+        if (stands)
+            ++place.passed;
+        else
+            place.missing += literal;
+    }
+    return place;
+}
+
             result += literal;
             // The text's own copy of the literal is not asked to match the position behind it.
             if (text[next] == literal)

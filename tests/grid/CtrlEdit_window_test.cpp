@@ -443,6 +443,48 @@ TEST_F(CtrlEditTest, TheEditAsksForTabAndForAllKeysOnEnterAndEscape) {
     const auto code = [&](UINT key) {
         MSG message{};
         message.hwnd = m_grid.Edit();
+TEST_F(CtrlEditTest, LiteralsInARowArePassedByOneCharacter) {
+    m_grid.SetNumberCols(2);
+    m_grid.SetNumberRows(2);
+    CUGCell cell;
+    cell.SetMask("(000) 000-0000");
+    m_grid.SetCell(0, 0, &cell);
+    m_grid.StartEdit();
+    Type("123x4");
+    EXPECT_EQ("(123) 4", EditText());
+    EXPECT_EQ("7..7", SelectionInEdit());
+    Type("567890");
+    EXPECT_EQ("(123) 456-7890", EditText());
+    Type("1");
+    EXPECT_EQ("(123) 456-7890", EditText());
+    ::SendMessageA(m_grid.Edit(), EM_SETSEL, 4, 11);
+    Type("9");
+    EXPECT_EQ("(123) 989-0", EditText());
+    EXPECT_EQ("7..7", SelectionInEdit());
+}
+
+TEST_F(CtrlEditTest, LettersOfTheMaskAreThoseOfTheCodePage) {
+    m_grid.SetNumberCols(2);
+    m_grid.SetNumberRows(2);
+    CUGCell cell;
+    cell.SetMask("LA?a");
+    m_grid.SetCell(0, 0, &cell);
+    m_grid.StartEdit();
+    Type("\xD7\xC4\xD7\xE9\xF7\xDF\xF1"); // multiplication and division signs are no letters
+    EXPECT_EQ("\xC4\xE9\xDF\xF1", EditText());
+}
+
+TEST_F(CtrlEditTest, ACharacterThatDoesNotFitPutsNoLiteralIn) {
+    m_grid.SetNumberCols(2);
+    m_grid.SetNumberRows(2);
+    CUGCell cell;
+    cell.SetMask("00/00");
+    m_grid.SetCell(0, 0, &cell);
+    m_grid.StartEdit();
+    Type("12x");
+    EXPECT_EQ("12", EditText());
+}
+
         message.message = WM_KEYDOWN;
         message.wParam = key;
         return ::SendMessageA(m_grid.Edit(), WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&message));
