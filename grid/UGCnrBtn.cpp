@@ -1,5 +1,8 @@
 #include "grid/UGCnrBtn.h"
 
+#include "grid/ButtonWatch.h"
+#include "grid/CellDrawScope.h"
+#include "grid/PaintingScope.h"
 #include "grid/UGCtrl.h"
 #include "grid/UGPlacing.h"
 
@@ -89,7 +92,9 @@ void CUGCnrBtn::Drag(CPoint point) {
     m_ctrl->m_grid.UpdateWindow();
 }
 
-void CUGCnrBtn::OnMouseMove(UINT, CPoint point) {
+void CUGCnrBtn::OnMouseMove(UINT flags, CPoint point) {
+    if (!(flags & MK_LBUTTON) && GetCapture() == this)
+        ReleaseCapture(); // the release of the button went elsewhere, and ends the sizing here
     if (m_resizing)
         Drag(point);
     else
@@ -99,9 +104,15 @@ void CUGCnrBtn::OnMouseMove(UINT, CPoint point) {
 void CUGCnrBtn::OnLButtonDown(UINT, CPoint point) {
     LookForEdge(point);
     SetCapture();
+    const CUGButtonWatch button;
     m_resizing = m_sizeHeight || m_sizeWidth;
-    if (!m_resizing)
-        m_ctrl->OnCB_LClicked(1);
+    if (GetSafeHwnd() == nullptr || button.CameUp())
+        return;
+    if (m_resizing)
+        return;
+    m_ctrl->OnCB_LClicked(1);
+    if (button.CameUp() && GetSafeHwnd() != nullptr && GetCapture() == this)
+        ReleaseCapture();
 }
 
 void CUGCnrBtn::OnLButtonUp(UINT, CPoint) {

@@ -91,6 +91,7 @@ private:
     bool m_doubleBuffer = false;
     bool m_captured = false;
     bool m_dragScrolling = false;
+    void LetMouseGo();
     int m_wheelRest = 0;
     // As last shown, to tell what moved since.
     int m_shownCol = 0;

@@ -1,8 +1,10 @@
 // Keys and mouse in the cell area.
+#include "grid/ButtonWatch.h"
 #include "grid/UGCtrl.h"
 
 #include "grid/UGDragScroll.h"
 #include "grid/UGDrawRules.h"
+#include "grid/ValueScope.h"
 
 #include <algorithm>
 
@@ -97,11 +99,25 @@ int CUGGrid::PressOnType(int col, long row, const RECT &rect, POINT *point) {
 
 void CUGGrid::HoldMouse() {
     SetCapture();
+// The press is over without its release having come: the button that it pressed in a cell comes up, as when the
+// pointer leaves it, and acts no more.
+void CUGGrid::LetMouseGo() {
+    CPoint outside(-1, -1);
+    if (CUGCellType *tracker = std::exchange(m_tracker, nullptr))
+        tracker->OnMouseMove(&outside, MK_LBUTTON);
+    m_captured = false;
+    if (GetSafeHwnd() != nullptr && GetCapture() == this)
+        ReleaseCapture();
+}
+
     m_captured = true;
 }
 
 void CUGGrid::OnLButtonDown(UINT, CPoint point) {
-    SetFocus();
+    const CUGButtonWatch button;
+    SetFocus(); // ends an edit, which may ask the user
+    if (GetSafeHwnd() == nullptr)
+        return;
     m_tracker = nullptr;
     m_dragStarted = false;
     int col;
@@ -116,10 +132,12 @@ void CUGGrid::OnLButtonDown(UINT, CPoint point) {
         col = -1;
         row = -1;
     }
-    m_ctrl->OnLClicked(col, row, 1, &rect, &point, processed);
-    if (GetSafeHwnd() != nullptr && !m_dragStarted)
-        HoldMouse();
+    else if (button.CameUp())
+        LetMouseGo();
     else
+        HoldMouse();
+    m_ctrl->OnLClicked(col, row, 1, &rect, &point, processed);
+    if (GetSafeHwnd() == nullptr || m_dragStarted)
         m_tracker = nullptr;
 }
 
@@ -144,6 +162,7 @@ void CUGGrid::OnLButtonUp(UINT, CPoint point) {
     m_ctrl->OnLClicked(col, row, 0, &rect, &point, processed);
     if (GetCapture() == this)
         ReleaseCapture();
+    const CUGButtonWatch button;
 }
 
 void CUGGrid::OnLButtonDblClk(UINT, CPoint point) {
@@ -157,13 +176,17 @@ void CUGGrid::OnLButtonDblClk(UINT, CPoint point) {
         RECT area = TypeArea(col, row, rect);
         processed = type->OnDClicked(col, row, &area, &point);
         // A button that was pressed by it is released with the mouse's button.
-        if (processed == UGCT_HANDLED) {
+        if (processed == UGCT_HANDLED && GetSafeHwnd() != nullptr) {
             HoldMouse();
             m_tracker = type;
+    if (m_captured && button.CameUp())
+        LetMouseGo();
         }
     }
     m_ctrl->OnDClicked(col, row, &rect, &point, processed);
 }
+    if (GetSafeHwnd() == nullptr)
+        return;
 
 void CUGGrid::OnRButtonDown(UINT, CPoint point) {
     SetFocus();
@@ -177,6 +200,8 @@ void CUGGrid::OnRButtonDown(UINT, CPoint point) {
         if (col == m_ctrl->GetCurrentCol() && row == m_ctrl->GetCurrentRow()) {
             RECT area = TypeArea(col, row, rect);
             processed = m_ctrl->FocusedType()->OnRClicked(col, row, 1, &area, &point);
+    if (GetSafeHwnd() == nullptr)
+        return;
         }
     }
     m_ctrl->OnRClicked(col, row, 1, &rect, &point, processed);
@@ -194,7 +219,11 @@ void CUGGrid::OnRButtonUp(UINT, CPoint point) {
 }
 
 void CUGGrid::OnMouseMove(UINT flags, CPoint point) {
-    if (!m_captured || !(flags & MK_LBUTTON) || GetCapture() != this)
+    if (!m_captured || GetCapture() != this)
+        return;
+    }
+    if (!(flags & MK_LBUTTON)) {
+        LetMouseGo(); // the release went elsewhere
         return;
     if (m_tracker != nullptr) {
         m_tracker->OnMouseMove(&point, flags);
@@ -218,7 +247,8 @@ void CUGGrid::DragTo(CPoint point) {
 // Scrolls while the pointer stays outside; ends with the next move or release of the mouse, which stays in the
 // queue for its own handler.
 void CUGGrid::DragScroll(CPoint point) {
-    m_dragScrolling = true;
+    const CUGValueScope<bool> scrolling(&m_dragScrolling, true);
+    const CUGButtonWatch button;
     MSG message;
     const HWND window = m_hWnd;
     while (::IsWindow(window)) {
@@ -234,10 +264,16 @@ void CUGGrid::DragScroll(CPoint point) {
                 break;
             continue;
         }
-        if (!DragStep(point))
+        const bool stepped = DragStep(point);
+        if (!::IsWindow(window) || ::GetCapture() != window)
+            break;
+        if (button.CameUp()) {
+            LetMouseGo();
+            break;
+        }
+        if (!stepped)
             ::WaitMessage();
     }
-    m_dragScrolling = false;
 }
 
 // One step of the drag scrolling, each axis by itself; false when it led nowhere.

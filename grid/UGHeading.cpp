@@ -1,5 +1,7 @@
 #include "grid/UGHeading.h"
 
+#include "grid/ButtonWatch.h"
+#include "grid/CellDrawScope.h"
 #include "grid/UGCtrl.h"
 #include "grid/UGSmallCellClip.h"
 
@@ -107,7 +109,9 @@ void CUGHeading::DragEdge(CPoint point) {
     m_ctrl->PlaceEdit();
 }
 
-void CUGHeading::OnMouseMove(UINT, CPoint point) {
+void CUGHeading::OnMouseMove(UINT flags, CPoint point) {
+    if (!(flags & MK_LBUTTON) && GetCapture() == this)
+        ReleaseCapture(); // the release of the button went elsewhere, and ends the sizing here
     if (m_resizing)
         DragEdge(point);
     else
@@ -115,15 +119,25 @@ void CUGHeading::OnMouseMove(UINT, CPoint point) {
 }
 
 void CUGHeading::OnLButtonDown(UINT, CPoint point) {
-    m_ctrl->m_grid.SetFocus();
-    SetCapture();
+    const CUGButtonWatch button;
+    m_ctrl->m_grid.SetFocus(); // ends an edit, which may ask the user
+    if (GetSafeHwnd() == nullptr)
+        return;
+    if (!button.CameUp())
+        SetCapture();
     LookForEdge(point);
+        if (GetCapture() != this)
+            return;
     if (m_canSize) {
         m_resizing = true;
         m_startSize = Axis().SizeOf(m_sizeIndex);
         m_startPosition = Along(point);
         return;
     }
+    // The notification may have given the mouse to the control.
+    const HWND holder = ::GetCapture();
+    if (button.CameUp() && holder != nullptr && (holder == m_hWnd || holder == m_ctrl->m_hWnd))
+        ::ReleaseCapture();
     LClicked(Axis().At(Along(point)), 1);
 }
 
@@ -149,8 +163,7 @@ void CUGHeading::OnLButtonUp(UINT, CPoint point) {
 // Whoever took the mouse keeps the release of the button to itself: the edge stays where it is. Other sizes are
 // in the table since, so its end is reckoned as after a release.
 void CUGHeading::OnCaptureChanged(CWnd *next) {
-    if (next != this && m_resizing) {
-        m_resizing = false;
+    if (next != this && std::exchange(m_resizing, false)) {
         m_ctrl->AdjustAxes();
         m_ctrl->RedrawAll();
     }
