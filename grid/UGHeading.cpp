@@ -153,10 +153,13 @@ void CUGHeading::OnLButtonUp(UINT, CPoint point) {
     m_ctrl->RedrawAll();
     if (!Axis().Contains(m_sizeIndex))
         return;
-    int size = Axis().SizeOf(m_sizeIndex);
+    const int shown = Axis().SizeOf(m_sizeIndex);
+    int size = shown;
     Sized(m_sizeIndex, &size);
     if (Axis().Contains(m_sizeIndex))
         StoreSize(m_sizeIndex, size);
+    if (size != shown)
+        m_ctrl->RedrawAll();
     m_ctrl->AdjustAxes();
 }
 
