@@ -50,6 +50,7 @@ void CUGCnrBtn::OnPaint() {
         m_cell.ClearAll();
         m_ctrl->GetCell(col, -1, &m_cell);
         CUGCellType *type = m_ctrl->GetCellType(m_cell.GetCellType());
+        const CUGCellDrawScope within(&dc, area);
         type->DrawBorder(&dc, &area, &m_cell);
         type->OnDraw(&dc, &area, &m_cell, 0, 0);
     }

@@ -1,7 +1,8 @@
 // Painting the cells. The state block is read directly and one scratch cell serves all; nothing of a cell is
 // kept from one paint to the next.
+#include "grid/CellDrawScope.h"
 #include "grid/UGCtrl.h"
-#include "grid/UGSmallCellClip.h"
+#include "grid/ValueScope.h"
 
 #include <algorithm>
 
@@ -78,7 +79,7 @@ void CUGGrid::DrawCell(Pass &pass, int col, long row, RECT rect) {
     const bool selected = m_GI->m_multiSelect ? !isCell && m_GI->m_selection.IsSelected(col, row)
                                               : m_GI->m_rowHighlight && currentRow;
     CUGCellType *type = m_ctrl->GetCellType(m_cell.GetCellType());
-    const CUGSmallCellClip within(pass.dc, rect);
+    const CUGCellDrawScope within(pass.dc, rect);
     type->DrawBorder(pass.dc, &rect, &m_cell);
     m_GI->m_paintCol = col;
     m_GI->m_paintRow = row;

@@ -3,7 +3,6 @@
 #include "grid/ButtonWatch.h"
 #include "grid/CellDrawScope.h"
 #include "grid/UGCtrl.h"
-#include "grid/UGSmallCellClip.h"
 
 #include <utility>
 
@@ -69,7 +68,7 @@ void CUGHeading::DrawHeadingCell(CDC *dc, int col, long row, RECT rect) {
     m_cell.ClearAll();
     m_ctrl->GetCell(col, row, &m_cell);
     CUGCellType *type = m_ctrl->GetCellType(m_cell.GetCellType());
-    const CUGSmallCellClip within(dc, rect);
+    const CUGCellDrawScope within(dc, rect);
     type->DrawBorder(dc, &rect, &m_cell);
     type->OnDraw(dc, &rect, &m_cell, 0, 0);
 }
