@@ -13,6 +13,7 @@ BEGIN_MESSAGE_MAP(CUGCtrl, CWnd)
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
     ON_WM_SYSCOLORCHANGE()
+    ON_WM_MOUSEWHEEL()
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
@@ -203,6 +204,12 @@ void CUGCtrl::OnVScroll(UINT code, UINT, CScrollBar *) {
 // The default colours follow the system. The types read the system's colours as they draw and keep no pens or
 // brushes, so the repaint is all that they need.
 void CUGCtrl::OnSysColorChange() {
+// The wheel comes to the window that has the focus, or the pointer; what has no use for it passes it on to here.
+BOOL CUGCtrl::OnMouseWheel(UINT, short delta, CPoint) {
+    m_grid.TurnWheel(delta);
+    return TRUE;
+}
+
     CWnd::OnSysColorChange();
     ReadSystemColours();
     RedrawAll();

@@ -272,6 +272,7 @@ protected:
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar *bar);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar *bar);
     afx_msg void OnSysColorChange();
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnDestroy();
     BOOL PreCreateWindow(CREATESTRUCT &create) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;

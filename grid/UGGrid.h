@@ -33,6 +33,8 @@ public:
     CUGCtrl *m_ctrl = nullptr; // both borrowed, set by the control
     CUGGridInfo *m_GI = nullptr;
     CUGEdit m_edit;
+    // Scrolls the cells by a turn of the wheel, which may come in parts of a notch.
+    void TurnWheel(int delta);
     bool m_dragStarted = false; // a notification dragged something out: the button is up again
 
 protected:

@@ -293,6 +293,11 @@ bool CUGGrid::DragStep(CPoint point) {
     UpdateWindow();
     if (across.m_waits || down.m_waits)
         ::Sleep(m_GI->m_ballisticDelay);
+    TurnWheel(delta);
+    return TRUE;
+}
+
+void CUGGrid::TurnWheel(int delta) {
     return true;
 }
 
@@ -307,7 +312,6 @@ BOOL CUGGrid::OnMouseWheel(UINT, short delta, CPoint) {
     const int steps = std::abs(notches) * (pages ? 1 : static_cast<int>(lines));
     for (int i = 0; i < steps; ++i)
         m_ctrl->m_vScroll.HandleScroll(pages ? (back ? SB_PAGEUP : SB_PAGEDOWN) : (back ? SB_LINEUP : SB_LINEDOWN));
-    return TRUE;
 }
 
 // Whoever took the mouse keeps the release of the button to itself: nothing waits for it any more.

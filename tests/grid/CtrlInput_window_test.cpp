@@ -186,6 +186,29 @@ TEST_F(CtrlInputTest, TheWheelScrollsByTheLinesThatTheSystemSays) {
     EXPECT_EQ(0, m_grid.GetCurrentRow());
 }
 
+TEST_F(CtrlInputTest, ThePopupMenuIsMadeOnceHoweverOftenTheWindowIs) {
+    const HMENU menu = m_grid.GetPopupMenu()->GetSafeHmenu();
+    m_grid.GetPopupMenu()->AppendMenu(MF_STRING, 1000, "first");
+    m_grid.DestroyWindow();
+    m_grid.CreateGrid(WS_VISIBLE, CRect(0, 0, 500, 300), &m_host, 100);
+    EXPECT_EQ(menu, m_grid.GetPopupMenu()->GetSafeHmenu());
+    EXPECT_EQ(1u, m_grid.GetPopupMenu()->GetMenuItemCount());
+}
+
+TEST_F(CtrlInputTest, TheWheelScrollsTheCellsWhereverItIsTurned) {
+    Fill(20, 100);
+    UINT lines = 0;
+    ::SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    long expected = 0;
+    for (HWND window : {m_grid.TopHeading(), m_grid.SideHeading(), m_grid.Corner(), m_grid.VBar(), m_grid.HBar(),
+                        m_grid.m_hWnd, m_grid.Cells()}) {
+        ::SendMessageA(window, WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+        expected += static_cast<long>(lines);
+        EXPECT_EQ(expected, m_grid.GetTopRow());
+        expected = m_grid.GetTopRow();
+    }
+}
+
 TEST_F(CtrlInputTest, FocusOnTheControlGoesToTheCells) {
     Fill(5, 10);
     m_host.SetFocus();
