@@ -90,7 +90,8 @@ int CUGCtrl::OnCreate(LPCREATESTRUCT create) {
     if (!CreateChildren())
         return -1;
     m_dropTarget.Register(&m_grid); // fails without OLE: then nothing can be dropped
-    m_popupMenu.CreatePopupMenu();
+    if (m_popupMenu.GetSafeHmenu() == nullptr) // a window made anew has the menu as it was filled
+        m_popupMenu.CreatePopupMenu();
     OnSetup();
     const HFONT heading = m_GI.m_headingDefault.GetFontHandle();
     m_GI.FitDefaultsToText(TextHeight(m_GI.m_defaultFont),
