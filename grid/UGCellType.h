@@ -63,6 +63,8 @@ public:
 protected:
     const char *DisplayText(const CUGCell *cell) const;
     int StyleOf(const CUGCell *cell) const;
+    // The cell, as it is read now, takes no change.
+    bool IsReadOnly(int col, long row) const;
     // True when a cell in this state is drawn in the highlight colours.
     bool IsHighlighted(int selected, int current) const;
 
