@@ -330,6 +330,7 @@ private:
     bool WrapEditCell(int *col, long *row);
     void DestroyEdit();
 
+    bool FindEditCell(int dx, int *col, long *row);
     CUGMem m_mem;
     std::vector<CUGCellType *> m_cellTypes;          // borrowed, entries may be null
     std::vector<std::unique_ptr<CUGCellType>> m_builtInTypes;

@@ -125,6 +125,36 @@ TEST_F(CtrlEditTest, TabGoesRightAndWithShiftLeft) {
     EXPECT_EQ("0.1", EditText());
 }
 
+TEST_F(CtrlEditTest, TabGoesPastColumnsOfNoWidth) {
+    Fill(5, 5);
+    m_grid.SetColWidth(1, 0);
+    m_grid.SetColWidth(2, 0);
+    m_grid.SetColWidth(4, 0);
+    m_grid.StartEdit();
+    Key(VK_TAB);
+    EXPECT_EQ("3.0", EditText());
+    Key(VK_TAB);
+    EXPECT_EQ("0.1", EditText());
+    HeldKeys shift({VK_SHIFT});
+    Key(VK_TAB);
+    EXPECT_EQ("3.0", EditText());
+    Key(VK_TAB);
+    EXPECT_EQ("0.0", EditText());
+}
+
+TEST_F(CtrlEditTest, NoEditOpensOnAColumnOfNoWidth) {
+    Fill(3, 5);
+    m_grid.GotoCell(1, 2);
+    m_grid.SetColWidth(1, 0);
+    m_grid.Take();
+    EXPECT_EQ(GRID_ERROR, m_grid.StartEdit());
+    EXPECT_EQ("", m_grid.Take());
+    EXPECT_EQ("closed", EditText());
+    for (int col : {0, 2})
+        m_grid.SetColWidth(col, 0);
+    EXPECT_EQ(GRID_ERROR, m_grid.EditContinue(1, 0)); // nowhere to go
+}
+
 TEST_F(CtrlEditTest, TabInTheLastColumnGoesToTheFirstOfTheNextRow) {
     Fill(3, 5);
     m_grid.GotoCell(2, 1);
