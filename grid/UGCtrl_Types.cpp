@@ -16,7 +16,8 @@ CUGCellType *CUGCtrl::GetCellType(int id) {
                 return m_cellTypes[i];
         }
     }
-    return m_cellTypes[0];
+    // Whoever emptied the base type's entry left cells of every unknown id without a type: the control's own serves.
+    return m_cellTypes[0] != nullptr ? m_cellTypes[0] : m_builtInTypes[0].get();
 }
 
 long CUGCtrl::AddCellType(CUGCellType *type) {
@@ -33,9 +34,6 @@ long CUGCtrl::AddCellType(CUGCellType *type) {
 int CUGCtrl::RemoveCellType(long id) {
     for (CUGCellType *&type : m_cellTypes) {
         if (type != nullptr && type->GetID() == id) {
-            // The base type stays: cells of every unknown id are drawn by it.
-            if (&type == &m_cellTypes.front())
-                return GRID_ERROR;
             type = nullptr;
             return GRID_SUCCESS;
         }
