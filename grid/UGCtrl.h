@@ -317,7 +317,9 @@ private:
     int VerifyTopRow(long row);
     int MoveTo(int col, long row);
     int MoveViewTo(int leftCol, long topRow);
-    long StepOverJoin(bool rows, long target);
+    int StepTo(int col, long row);
+    UGJoin JoinAt(const CUGCell &cell, int col, long row);
+    RECT JoinRect(const UGJoin &join) const;
     void UpdateSelection();
     void UpdateFocusedType(int lastCol, long lastRow);
     CUGCellType *FocusedType();
@@ -328,9 +330,9 @@ private:
     int TranslatedColumn(int col);
     void ShowPopupMenu(int col, long row, int section, POINT screen);
     bool WrapEditCell(int *col, long *row);
+    bool FindEditCell(int dx, int *col, long *row);
     void DestroyEdit();
 
-    bool FindEditCell(int dx, int *col, long *row);
     CUGMem m_mem;
     std::vector<CUGCellType *> m_cellTypes;          // borrowed, entries may be null
     std::vector<std::unique_ptr<CUGCellType>> m_builtInTypes;
