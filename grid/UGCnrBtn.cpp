@@ -75,18 +75,19 @@ void CUGCnrBtn::LookForEdge(CPoint point) {
 }
 
 void CUGCnrBtn::Drag(CPoint point) {
-    m_ctrl->EnablePainting(0);
-    if (m_sizeHeight) {
-        int height = std::max<int>(point.y, 0);
-        m_ctrl->OnTopHdgSizing(&height);
-        m_ctrl->SetTH_Height(height);
+    {
+        const CPaintingScope quiet(m_ctrl);
+        if (m_sizeHeight) {
+            int height = std::max<int>(point.y, 0);
+            m_ctrl->OnTopHdgSizing(&height);
+            m_ctrl->SetTH_Height(height);
+        }
+        if (m_sizeWidth) {
+            int width = std::max<int>(point.x, 0);
+            m_ctrl->OnSideHdgSizing(&width);
+            m_ctrl->SetSH_Width(width);
+        }
     }
-    if (m_sizeWidth) {
-        int width = std::max<int>(point.x, 0);
-        m_ctrl->OnSideHdgSizing(&width);
-        m_ctrl->SetSH_Width(width);
-    }
-    m_ctrl->EnablePainting(1);
     UpdateWindow();
     m_ctrl->m_topHdg.UpdateWindow();
     m_ctrl->m_sideHdg.UpdateWindow();
@@ -103,12 +104,12 @@ void CUGCnrBtn::OnMouseMove(UINT flags, CPoint point) {
 }
 
 void CUGCnrBtn::OnLButtonDown(UINT, CPoint point) {
-    LookForEdge(point);
-    SetCapture();
     const CUGButtonWatch button;
-    m_resizing = m_sizeHeight || m_sizeWidth;
+    LookForEdge(point);
     if (GetSafeHwnd() == nullptr || button.CameUp())
         return;
+    SetCapture();
+    m_resizing = m_sizeHeight || m_sizeWidth;
     if (m_resizing)
         return;
     m_ctrl->OnCB_LClicked(1);

@@ -2,6 +2,7 @@
 #include "grid/UGCtrl.h"
 
 #include "grid/UGDrawRules.h"
+#include "grid/ValueScope.h"
 
 #include <algorithm>
 
@@ -97,7 +98,6 @@ bool CUGCtrl::WrapEditCell(int *col, long *row) {
     return true;
 }
 
-int CUGCtrl::EditContinue(int dx, int dy) {
 // The same, and on past columns of no width, in the direction of the step. False where there is no cell to edit.
 bool CUGCtrl::FindEditCell(int dx, int *col, long *row) {
     for (int tried = 0; tried <= GetNumberCols(); ++tried) {
@@ -110,6 +110,7 @@ bool CUGCtrl::FindEditCell(int dx, int *col, long *row) {
     return false;
 }
 
+int CUGCtrl::EditContinue(int dx, int dy) {
     int col = m_GI.m_editCol + dx;
     long row = m_GI.m_editRow + dy;
     if (!FindEditCell(dx, &col, &row)) {
@@ -121,8 +122,10 @@ bool CUGCtrl::FindEditCell(int dx, int *col, long *row) {
         m_grid.SetFocus();
         return GRID_ERROR;
     }
-    m_GI.m_moveType = UG_MOVED_BY_PROGRAM;
-    GotoCell(col, row);
+    {
+        const CUGValueScope<int> byProgram(&m_GI.m_moveType, UG_MOVED_BY_PROGRAM);
+        GotoCell(col, row);
+    }
     if (StartEdit() == GRID_SUCCESS)
         return GRID_SUCCESS;
     // The next cell takes no edit: the box of the last one, which is written, must not stay and take keys.

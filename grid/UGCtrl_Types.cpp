@@ -49,18 +49,17 @@ int CUGCtrl::FitColumns(int firstCol, int lastCol, int rows, CellReader read) {
     const long below = GetNumberRows() - 1 - GetTopRow();
     const long lastRow = GetTopRow() + std::min<long>(rows, below); // a huge count is all rows
     std::vector<long> widths(lastCol - firstCol + 1, 0L);
-    CDC *dc = GetGridDC();
+    CClientDC dc(&m_grid);
     CUGCell cell;
     for (long row = GetTopRow(); row <= lastRow; ++row) {
         for (int col = firstCol; col <= lastCol; ++col) {
             cell.ClearAll();
             (this->*read)(col, row, &cell);
             SIZE size{};
-            GetCellType(cell.GetCellType())->GetBestSize(dc, &size, &cell);
+            GetCellType(cell.GetCellType())->GetBestSize(&dc, &size, &cell);
             widths[col - firstCol] = std::max<long>(widths[col - firstCol], size.cx);
         }
     }
-    ReleaseGridDC(dc);
     for (int col = firstCol; col <= lastCol; ++col)
         m_GI.SetColWidth(col, static_cast<int>(widths[col - firstCol]) + kBestFitMarginPx);
     AdjustAxes();

@@ -52,9 +52,8 @@ void CUGGrid::OnKeyDown(UINT key, UINT, UINT) {
     const bool ctrl = (::GetKeyState(VK_CONTROL) & 0x8000) != 0;
     for (const KeyMove &entry : kKeyMoves) {
         if (entry.key == key && entry.ctrl == ctrl) {
-            m_GI->m_moveType = UG_MOVED_BY_KEY;
+            const CUGValueScope<int> byKey(&m_GI->m_moveType, UG_MOVED_BY_KEY);
             (m_ctrl->*entry.move)(entry.how);
-            m_GI->m_moveType = UG_MOVED_BY_PROGRAM;
             break;
         }
     }
@@ -71,11 +70,9 @@ void CUGGrid::OnChar(UINT key, UINT, UINT) {
 
 // The cell that the mouse names becomes current without the view scrolling under the pointer.
 void CUGGrid::GoByMouse(int moveType, int col, long row) {
-    m_GI->m_moveType = moveType;
-    m_GI->m_scrollMargin = 0;
+    const CUGValueScope<int> type(&m_GI->m_moveType, moveType);
+    const CUGValueScope<int> margin(&m_GI->m_scrollMargin, 0);
     m_ctrl->GotoCell(col, row);
-    m_GI->m_scrollMargin = 1;
-    m_GI->m_moveType = UG_MOVED_BY_PROGRAM;
 }
 
 // What a cell's type paints in, and so what it takes clicks in: the cell without its border.
@@ -99,6 +96,9 @@ int CUGGrid::PressOnType(int col, long row, const RECT &rect, POINT *point) {
 
 void CUGGrid::HoldMouse() {
     SetCapture();
+    m_captured = true;
+}
+
 // The press is over without its release having come: the button that it pressed in a cell comes up, as when the
 // pointer leaves it, and acts no more.
 void CUGGrid::LetMouseGo() {
@@ -108,9 +108,6 @@ void CUGGrid::LetMouseGo() {
     m_captured = false;
     if (GetSafeHwnd() != nullptr && GetCapture() == this)
         ReleaseCapture();
-}
-
-    m_captured = true;
 }
 
 void CUGGrid::OnLButtonDown(UINT, CPoint point) {
@@ -132,13 +129,13 @@ void CUGGrid::OnLButtonDown(UINT, CPoint point) {
         col = -1;
         row = -1;
     }
+    m_ctrl->OnLClicked(col, row, 1, &rect, &point, processed);
+    if (GetSafeHwnd() == nullptr || m_dragStarted)
+        m_tracker = nullptr;
     else if (button.CameUp())
         LetMouseGo();
     else
         HoldMouse();
-    m_ctrl->OnLClicked(col, row, 1, &rect, &point, processed);
-    if (GetSafeHwnd() == nullptr || m_dragStarted)
-        m_tracker = nullptr;
 }
 
 void CUGGrid::OnLButtonUp(UINT, CPoint point) {
@@ -162,10 +159,10 @@ void CUGGrid::OnLButtonUp(UINT, CPoint point) {
     m_ctrl->OnLClicked(col, row, 0, &rect, &point, processed);
     if (GetCapture() == this)
         ReleaseCapture();
-    const CUGButtonWatch button;
 }
 
 void CUGGrid::OnLButtonDblClk(UINT, CPoint point) {
+    const CUGButtonWatch button;
     int col;
     long row;
     RECT rect{};
@@ -179,17 +176,17 @@ void CUGGrid::OnLButtonDblClk(UINT, CPoint point) {
         if (processed == UGCT_HANDLED && GetSafeHwnd() != nullptr) {
             HoldMouse();
             m_tracker = type;
-    if (m_captured && button.CameUp())
-        LetMouseGo();
         }
     }
     m_ctrl->OnDClicked(col, row, &rect, &point, processed);
+    if (m_captured && button.CameUp())
+        LetMouseGo();
 }
-    if (GetSafeHwnd() == nullptr)
-        return;
 
 void CUGGrid::OnRButtonDown(UINT, CPoint point) {
     SetFocus();
+    if (GetSafeHwnd() == nullptr)
+        return;
     int col;
     long row;
     RECT rect{};
@@ -200,11 +197,11 @@ void CUGGrid::OnRButtonDown(UINT, CPoint point) {
         if (col == m_ctrl->GetCurrentCol() && row == m_ctrl->GetCurrentRow()) {
             RECT area = TypeArea(col, row, rect);
             processed = m_ctrl->FocusedType()->OnRClicked(col, row, 1, &area, &point);
-    if (GetSafeHwnd() == nullptr)
-        return;
         }
     }
     m_ctrl->OnRClicked(col, row, 1, &rect, &point, processed);
+    if (GetSafeHwnd() == nullptr)
+        return;
     CPoint screen = point;
     ClientToScreen(&screen);
     m_ctrl->ShowPopupMenu(col, row, UG_SECTION_GRID, screen);
@@ -221,10 +218,10 @@ void CUGGrid::OnRButtonUp(UINT, CPoint point) {
 void CUGGrid::OnMouseMove(UINT flags, CPoint point) {
     if (!m_captured || GetCapture() != this)
         return;
-    }
     if (!(flags & MK_LBUTTON)) {
         LetMouseGo(); // the release went elsewhere
         return;
+    }
     if (m_tracker != nullptr) {
         m_tracker->OnMouseMove(&point, flags);
         return;
@@ -282,26 +279,25 @@ bool CUGGrid::DragStep(CPoint point) {
     const long col = cols.m_current, row = rows.m_current;
     const UGDragStep across = UGDragStepOf(point.x, cols.m_extent, cols.m_defaultSize / 2, m_GI->m_ballisticMode, false);
     const UGDragStep down = UGDragStepOf(point.y, rows.m_extent, rows.m_defaultSize, m_GI->m_ballisticMode, true);
-    m_GI->m_moveType = UG_MOVED_BY_DRAG;
+    const CUGValueScope<int> byDrag(&m_GI->m_moveType, UG_MOVED_BY_DRAG);
     if (across.m_steps != 0)
         m_ctrl->GotoCol(static_cast<int>(UGDragTarget(col, across.m_steps)));
     if (down.m_steps != 0)
         m_ctrl->GotoRow(UGDragTarget(row, down.m_steps));
-    m_GI->m_moveType = UG_MOVED_BY_PROGRAM;
     if (cols.m_current == col && rows.m_current == row)
         return false;
     UpdateWindow();
     if (across.m_waits || down.m_waits)
         ::Sleep(m_GI->m_ballisticDelay);
+    return true;
+}
+
+BOOL CUGGrid::OnMouseWheel(UINT, short delta, CPoint) {
     TurnWheel(delta);
     return TRUE;
 }
 
 void CUGGrid::TurnWheel(int delta) {
-    return true;
-}
-
-BOOL CUGGrid::OnMouseWheel(UINT, short delta, CPoint) {
     UINT lines = 3;
     ::SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
     m_wheelRest += delta;

@@ -92,10 +92,9 @@ void CUGGrid::DrawCell(Pass &pass, int col, long row, RECT rect) {
     CUGCellType *type = m_ctrl->GetCellType(m_cell.GetCellType());
     const CUGCellDrawScope within(pass.dc, rect);
     type->DrawBorder(pass.dc, &rect, &m_cell);
-    m_GI->m_paintCol = col;
-    m_GI->m_paintRow = row;
+    const CUGValueScope<int> paintCol(&m_GI->m_paintCol, col);
+    const CUGValueScope<long> paintRow(&m_GI->m_paintRow, row);
     type->OnDraw(pass.dc, &rect, &m_cell, selected, current);
-    m_GI->m_paintCol = -1;
 }
 
 // What no cell covers has the back colour of the headings.

@@ -125,19 +125,19 @@ void CUGHeading::OnLButtonDown(UINT, CPoint point) {
     if (!button.CameUp())
         SetCapture();
     LookForEdge(point);
+    if (m_canSize) {
         if (GetCapture() != this)
             return;
-    if (m_canSize) {
         m_resizing = true;
         m_startSize = Axis().SizeOf(m_sizeIndex);
         m_startPosition = Along(point);
         return;
     }
+    LClicked(Axis().At(Along(point)), 1);
     // The notification may have given the mouse to the control.
     const HWND holder = ::GetCapture();
     if (button.CameUp() && holder != nullptr && (holder == m_hWnd || holder == m_ctrl->m_hWnd))
         ::ReleaseCapture();
-    LClicked(Axis().At(Along(point)), 1);
 }
 
 void CUGHeading::OnLButtonUp(UINT, CPoint point) {
@@ -157,9 +157,9 @@ void CUGHeading::OnLButtonUp(UINT, CPoint point) {
     Sized(m_sizeIndex, &size);
     if (Axis().Contains(m_sizeIndex))
         StoreSize(m_sizeIndex, size);
+    m_ctrl->AdjustAxes();
     if (size != shown)
         m_ctrl->RedrawAll();
-    m_ctrl->AdjustAxes();
 }
 
 // Whoever took the mouse keeps the release of the button to itself: the edge stays where it is. Other sizes are

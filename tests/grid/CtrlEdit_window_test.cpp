@@ -273,36 +273,6 @@ TEST_F(CtrlEditTest, AVetoOfTheFinishAtFocusLossStillClosesTheBox) {
     EXPECT_EQ("0.0", m_source->Text(0, 0));
 }
 
-TEST_F(CtrlEditTest, ASwallowedKeyNeverReachesTheText) {
-    Fill(3, 5);
-    m_grid.StartEdit();
-    m_grid.m_vetoes = {"EditVerify"};
-    Type("x");
-    Key(VK_RETURN);
-    Key(VK_ESCAPE);
-    EXPECT_EQ("0.0", EditText());
-    EXPECT_EQ("cur=(0,0) view=(0,0) size=3x5", m_grid.State());
-}
-
-TEST_F(CtrlEditTest, AKeyThatTheNotificationChangedIsTyped) {
-    Fill(3, 5);
-    m_grid.StartEdit();
-    m_grid.m_onEditVerify = [](int col, long, UINT *key) {
-        if (col >= 0 && *key == 'a')
-            *key = 'A';
-    };
-    Type("aba");
-    EXPECT_EQ("AbA", EditText());
-    m_grid.m_onEditVerify = nullptr;
-}
-
-TEST_F(CtrlEditTest, TabAndEnterAsCharactersAreAskedAndSwallowed) {
-    Fill(3, 5);
-    m_grid.StartEdit();
-    m_grid.Take();
-    SendChar(m_grid.Edit(), 9);
-    SendChar(m_grid.Edit(), 13);
-    EXPECT_EQ("EditVerify(0,0,9) EditVerify(0,0,13)", m_grid.Take());
 // As a box of the host does: it takes the focus, and gives it to the window below it when it goes.
 TEST_F(CtrlEditTest, AFinishThatShowsABoxWritesWhatWasTyped) {
     Fill(3, 5);
@@ -402,6 +372,36 @@ TEST_F(CtrlEditTest, ARefusedWriteIsToldAndTheCellShowsWhatTheSourceHas) {
     EXPECT_EQ("y", m_grid.Text(1, 0));
 }
 
+TEST_F(CtrlEditTest, ASwallowedKeyNeverReachesTheText) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    m_grid.m_vetoes = {"EditVerify"};
+    Type("x");
+    Key(VK_RETURN);
+    Key(VK_ESCAPE);
+    EXPECT_EQ("0.0", EditText());
+    EXPECT_EQ("cur=(0,0) view=(0,0) size=3x5", m_grid.State());
+}
+
+TEST_F(CtrlEditTest, AKeyThatTheNotificationChangedIsTyped) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    m_grid.m_onEditVerify = [](int col, long, UINT *key) {
+        if (col >= 0 && *key == 'a')
+            *key = 'A';
+    };
+    Type("aba");
+    EXPECT_EQ("AbA", EditText());
+    m_grid.m_onEditVerify = nullptr;
+}
+
+TEST_F(CtrlEditTest, TabAndEnterAsCharactersAreAskedAndSwallowed) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    m_grid.Take();
+    SendChar(m_grid.Edit(), 9);
+    SendChar(m_grid.Edit(), 13);
+    EXPECT_EQ("EditVerify(0,0,9) EditVerify(0,0,13)", m_grid.Take());
     EXPECT_EQ("0.0", EditText());
 }
 
@@ -443,36 +443,6 @@ TEST_F(CtrlEditTest, TheMaskOfTheCellHoldsWhatIsTyped) {
     EXPECT_EQ("12/34", m_grid.Text(0, 0));
 }
 
-TEST_F(CtrlEditTest, AnotherStartEndsTheEditThatIsOpen) {
-    Fill(3, 5);
-    m_grid.StartEdit();
-    Type("x");
-    EXPECT_EQ(GRID_SUCCESS, m_grid.StartEdit());
-    EXPECT_EQ("0.0", EditText());
-    EXPECT_EQ("0.0", m_source->Text(0, 0));
-}
-
-TEST_F(CtrlEditTest, TheSetupMayChangeRectangleAndStyle) {
-    Fill(3, 5);
-    m_grid.m_onSetupEditWindow = [](RECT *rect, DWORD *style) {
-        rect->right = rect->left + 33;
-        *style |= ES_UPPERCASE;
-    };
-    m_grid.StartEdit();
-    RECT rect;
-    ::GetWindowRect(m_grid.Edit(), &rect);
-    EXPECT_EQ(33, rect.right - rect.left);
-    Type("u");
-    EXPECT_EQ("U", EditText());
-    m_grid.m_onSetupEditWindow = nullptr;
-}
-
-TEST_F(CtrlEditTest, TheEditAsksForTabAndForAllKeysOnEnterAndEscape) {
-    Fill(3, 5);
-    m_grid.StartEdit();
-    const auto code = [&](UINT key) {
-        MSG message{};
-        message.hwnd = m_grid.Edit();
 TEST_F(CtrlEditTest, LiteralsInARowArePassedByOneCharacter) {
     m_grid.SetNumberCols(2);
     m_grid.SetNumberRows(2);
@@ -515,6 +485,36 @@ TEST_F(CtrlEditTest, ACharacterThatDoesNotFitPutsNoLiteralIn) {
     EXPECT_EQ("12", EditText());
 }
 
+TEST_F(CtrlEditTest, AnotherStartEndsTheEditThatIsOpen) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    Type("x");
+    EXPECT_EQ(GRID_SUCCESS, m_grid.StartEdit());
+    EXPECT_EQ("0.0", EditText());
+    EXPECT_EQ("0.0", m_source->Text(0, 0));
+}
+
+TEST_F(CtrlEditTest, TheSetupMayChangeRectangleAndStyle) {
+    Fill(3, 5);
+    m_grid.m_onSetupEditWindow = [](RECT *rect, DWORD *style) {
+        rect->right = rect->left + 33;
+        *style |= ES_UPPERCASE;
+    };
+    m_grid.StartEdit();
+    RECT rect;
+    ::GetWindowRect(m_grid.Edit(), &rect);
+    EXPECT_EQ(33, rect.right - rect.left);
+    Type("u");
+    EXPECT_EQ("U", EditText());
+    m_grid.m_onSetupEditWindow = nullptr;
+}
+
+TEST_F(CtrlEditTest, TheEditAsksForTabAndForAllKeysOnEnterAndEscape) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    const auto code = [&](UINT key) {
+        MSG message{};
+        message.hwnd = m_grid.Edit();
         message.message = WM_KEYDOWN;
         message.wParam = key;
         return ::SendMessageA(m_grid.Edit(), WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&message));

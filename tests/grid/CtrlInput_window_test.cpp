@@ -220,12 +220,18 @@ TEST_F(CtrlInputTest, DraggingBeyondTheBottomScrollsUntilTheButtonIsReleased) {
     Fill(5, 100);
     m_grid.EnableMultiSelect(1);
     PressCell(1, 5);
-    // What ends the scrolling waits in the queue and is handled there.
-    ::PostMessageA(m_grid.Cells(), WM_USER, 0, 0);
-    ::PostMessageA(m_grid.Cells(), WM_LBUTTONUP, 0, MAKELPARAM(150, 250));
+    int steps = 0;
+    m_grid.m_onCellChanged = [&] {
+        if (++steps == 20)
+            ::PostMessageA(m_grid.Cells(), WM_LBUTTONUP, 0, MAKELPARAM(150, m_grid.m_GI.m_rows.m_extent - 1));
+    };
     MoveMouse(m_grid.Cells(), 150, m_grid.m_GI.m_rows.m_extent + 30, MK_LBUTTON);
+    m_grid.m_onCellChanged = nullptr;
+    EXPECT_EQ(25, m_grid.GetCurrentRow());
+    EXPECT_GT(m_grid.GetTopRow(), 0);
     PumpUntil("the release of the mouse", [] { return ::GetCapture() == nullptr; });
     EXPECT_EQ(1, m_grid.GetCurrentCol());
+    EXPECT_TRUE(m_grid.IsSelected(1, 20));
 }
 
 } // namespace
