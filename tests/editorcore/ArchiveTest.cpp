@@ -17,6 +17,23 @@ template <class Write> std::string Written(Write write) {
     return file.m_bytes;
 }
 
+TEST(ArchiveTest, WhatWaitsIsWrittenByAFlush) {
+    MemoryFile file;
+    CArchive archive(&file, CArchive::store);
+    EXPECT_TRUE(archive.IsStoring());
+    EXPECT_FALSE(archive.IsLoading());
+    EXPECT_EQ(&file, archive.GetFile());
+    archive << BYTE{0x41};
+    EXPECT_EQ("", file.m_bytes);
+    archive.Flush();
+    EXPECT_EQ("A", file.m_bytes);
+    archive.Flush();
+    EXPECT_EQ("A", file.m_bytes);
+    CArchive reading(&file, CArchive::load);
+    EXPECT_TRUE(reading.IsLoading());
+    EXPECT_FALSE(reading.IsStoring());
+}
+
 TEST(ArchiveTest, TheBufferMayBeTheCallers) {
     BYTE buffer[4] = {};
     MemoryFile file;

@@ -30,6 +30,18 @@ TEST_F(CompilerTest, ASourceThatTellsNoPathDoesNotGetTheLastOnes) {
     m_compiler.DetachDataSource();
 }
 
+TEST_F(CompilerTest, TheFirstChecksAreToBeHadAlone) {
+    CString text;
+    EXPECT_FALSE(m_compiler.CheckDataSource(text));
+    EXPECT_STREQ(text, "No data source attached!");
+    Open(2, {});
+    EXPECT_FALSE(m_compiler.CheckDataSource(text));
+    EXPECT_STREQ(text, "File has no data!");
+    Open(2, {{"A", "a"}});
+    EXPECT_TRUE(m_compiler.CheckDataSource(text));
+    EXPECT_EQ(m_app.Take(), "");
+}
+
 TEST_F(CompilerTest, AFileWithoutFieldsOrRecords) {
     EXPECT_EQ(Compile(0, {{}}), "(-1,-1) File has no data!");
     EXPECT_EQ(Compile(2, {}), "(-1,-1) File has no data!");

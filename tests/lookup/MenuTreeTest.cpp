@@ -92,6 +92,36 @@ TEST_F(MenuTreeTest, ACodeThatBeginsWithAnExclamationMarkHasNoDisplayCode) {
     EXPECT_EQ(m_root.FindChild("!other", true), 0);
 }
 
+TEST_F(MenuTreeTest, TheDisplayCodeIsTheCodeUnlessItBeginsWithAnExclamationMark) {
+    EXPECT_STREQ(CMenuTree::DisplayCode("AB!"), "AB!");
+    EXPECT_STREQ(CMenuTree::DisplayCode("!AB"), "");
+    EXPECT_STREQ(CMenuTree::DisplayCode(""), "");
+    EXPECT_EQ(Insert(m_root, "AB!")->GetCodeLength(), 3);
+    EXPECT_EQ(Insert(m_root, "!AB")->GetCodeLength(), 0);
+}
+
+TEST_F(MenuTreeTest, AListIsMadeOfPartsInTheOrderThatTheyCome) {
+    CMenuList *list = m_root.NewList();
+    EXPECT_EQ(list->FindCode("A", true), -1);
+    for (const char *code : {"B", "D"}) {
+        CMenuTree *node = m_root.AppendNew(list);
+        node->SetCode(code, 1);
+        node->SetDescription("text and more", 4);
+        EXPECT_STREQ(node->m_sCode, code);
+        EXPECT_STREQ(node->m_sDescription, "text");
+    }
+    CTreePool pool;
+    CMenuTree *first = m_root.NewNode("A", "", 0);
+    list->Reserve(pool, 3);
+    list->InsertAt(pool, 0, first);
+    EXPECT_EQ(list->GetAt(0), first);
+    bool found = false;
+    EXPECT_EQ(list->FindCode("D", true, &found), 2);
+    EXPECT_TRUE(found);
+    EXPECT_EQ(list->FindCode("C", true, &found), 2);
+    EXPECT_FALSE(found);
+}
+
 TEST_F(MenuTreeTest, WidthsAreTheLongestOfTheChildren) {
     Insert(m_root, "AAAA", "x");
     Insert(m_root, "B", "long one");
