@@ -77,6 +77,23 @@ TEST(SelectionListTest, ALaterDeselectingBlockWins) {
     EXPECT_EQ(2u, list.GetBlocks().size());
 }
 
+TEST(SelectionListTest, OnlyABlockOfThatOneCellIsTurnedOver) {
+    for (int col : {0, 2}) { // the ends of a block of one row
+        auto list = List(UG_SELECT_CELLS);
+        list.StartBlock(0, 0);
+        list.ExtendBlock(2, 0);
+        list.ToggleCell(col, 0);
+        EXPECT_EQ(col == 0 ? "(1,0)(2,0)" : "(0,0)(1,0)", Selected(list));
+    }
+    for (long row : {0L, 2L}) {
+        auto list = List(UG_SELECT_CELLS);
+        list.StartBlock(0, 0);
+        list.ExtendBlock(0, 2);
+        list.ToggleCell(0, row);
+        EXPECT_EQ(row == 0 ? "(0,1)(0,2)" : "(0,0)(0,1)", Selected(list));
+    }
+}
+
 TEST(SelectionListTest, ABlockAddedByToggleIsOpenAndLast) {
     auto list = List(UG_SELECT_CELLS);
     list.StartBlock(0, 0);
