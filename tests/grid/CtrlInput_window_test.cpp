@@ -225,7 +225,14 @@ TEST_F(CtrlInputTest, DraggingBeyondTheBottomScrollsUntilTheButtonIsReleased) {
         if (++steps == 20)
             ::PostMessageA(m_grid.Cells(), WM_LBUTTONUP, 0, MAKELPARAM(150, m_grid.m_GI.m_rows.m_extent - 1));
     };
+    // Where nothing scrolls the release comes all the same, some time later.
+    constexpr UINT kPatienceMs = 5000;
+    const auto release = [](HWND, UINT, UINT_PTR, DWORD) {
+        ::PostMessageA(::GetCapture(), WM_LBUTTONUP, 0, MAKELPARAM(150, 10));
+    };
+    const UINT_PTR timer = ::SetTimer(nullptr, 0, kPatienceMs, release);
     MoveMouse(m_grid.Cells(), 150, m_grid.m_GI.m_rows.m_extent + 30, MK_LBUTTON);
+    ::KillTimer(nullptr, timer);
     m_grid.m_onCellChanged = nullptr;
     EXPECT_EQ(25, m_grid.GetCurrentRow());
     EXPECT_GT(m_grid.GetTopRow(), 0);
