@@ -1,6 +1,6 @@
 // One edit, from the opening of the box to the boundary in the source's undo.
 #include "editorcore/EditorCore.h"
-#include "editorcore/ValueScope.h"
+#include "grid/ValueScope.h"
 
 #include <utility>
 
@@ -19,7 +19,7 @@ int CEditorCore::OnEditVerify(int col, long row, CEdit *, UINT *key) {
     if (col == -1 && row == -1 && *key == VK_RETURN) {
         *key = ms_bEnterKeyIsTab ? VK_TAB : VK_DOWN;
         // The view may scroll to the new record. The edit is finished after it as anywhere, an undo step of its own.
-        const CValueScope staying(&m_GI.m_suppressFinish, 1);
+        const CUGValueScope staying(&m_GI.m_suppressFinish, 1);
         if (GetNumberRows() == 0)
             OnAppendRow(GetCurrentCol());
         if (GetNumberCols() > 1 && GetCurrentRow() == LastRowIndex() && !ms_bEnterKeyIsTab)
@@ -67,7 +67,7 @@ void CEditorCore::VarifyEdit(CWnd *edit, int col, long row) {
                     static_cast<const char *>(typed));
     int answer;
     {
-        const CValueScope staying(&m_GI.m_suppressFinish, 1); // the question takes the focus, which must not end the edit
+        const CUGValueScope staying(&m_GI.m_suppressFinish, 1); // the question takes the focus, which must not end the edit
         answer = AfxMessageBox(question, MB_YESNO | MB_ICONQUESTION, 0);
     }
     if (answer != IDYES && GetEditControl() != nullptr) // what ran meanwhile may have ended the edit
@@ -153,8 +153,8 @@ void CEditorCore::SaveEditContents() {
         return;
     const bool differs = IsEditTyped();
     {
-        const CValueScope saving(&m_bSavingEdit, true);
-        const CValueScope ownStep(&m_bInCommand, false); // also where a command finishes it before it begins
+        const CUGValueScope saving(&m_bSavingEdit, true);
+        const CUGValueScope ownStep(&m_bInCommand, false); // also where a command finishes it before it begins
         edit->SendMessage(WM_KILLFOCUS, 0, 0);
     }
     if (differs)

@@ -1,7 +1,7 @@
 // The layout file beside the data file, and the layout of a table that has none yet.
 #include "editorcore/EditorCore.h"
 #include "editorcore/FrozenWidthScope.h"
-#include "editorcore/ValueScope.h"
+#include "grid/ValueScope.h"
 #include "editorcore/WaitCursorScope.h"
 #include "grid/PaintingScope.h"
 
@@ -44,7 +44,7 @@ bool CEditorCore::Serialize(bool store) {
         return false;
     }
     try {
-        const CValueScope withinHere(&m_bAutoSaveLayout, false);
+        const CUGValueScope withinHere(&m_bAutoSaveLayout, false);
         CArchive archive(&file, store ? CArchive::store : CArchive::load);
         Serialize(archive);
         archive.Close();

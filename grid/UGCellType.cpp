@@ -80,6 +80,12 @@ int CUGCellType::StyleOf(const CUGCell *cell) const {
     return style < 0 ? 0 : style;
 }
 
+bool CUGCellType::IsReadOnly(int col, long row) const {
+    CUGCell cell;
+    m_ctrl->GetCell(col, row, &cell);
+    return cell.GetReadOnly() == 1;
+}
+
 bool CUGCellType::IsHighlighted(int selected, int current) const {
     return selected || (current && (m_GI->m_currentCellStyle & 2));
 }

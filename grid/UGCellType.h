@@ -33,7 +33,9 @@ public:
     virtual int OnKeyDown(UINT *key);
     virtual int OnCharDown(UINT *key);
     virtual int OnMouseMove(POINT *point, UINT flags);
-    // `selected` and `current` choose the highlight colours. The border is already drawn and taken off `rect`.
+    // `selected` and `current` choose the highlight colours. The border is already drawn and taken off `rect`. The
+    // device context is a new one with the default font selected, and with what OnDrawSetup did to it: text aligned
+    // left and top, black pen, white brush, opaque background. What this leaves changed is put back by the caller.
     virtual void OnDraw(CDC *dc, RECT *rect, CUGCell *cell, int selected, int current);
     // Draws as OnDraw does, not highlighted, with a font that has the proportion to the rectangle's height that
     // it has on the screen to a row of default height; `scale` is a percentage of that.
@@ -61,6 +63,8 @@ public:
 protected:
     const char *DisplayText(const CUGCell *cell) const;
     int StyleOf(const CUGCell *cell) const;
+    // The cell, as it is read now, takes no change.
+    bool IsReadOnly(int col, long row) const;
     // True when a cell in this state is drawn in the highlight colours.
     bool IsHighlighted(int selected, int current) const;
 

@@ -28,6 +28,8 @@ RECT CUGCheckBoxType::BoxRect(const RECT &cell) {
 }
 
 int CUGCheckBoxType::Toggle(int col, long row) {
+    if (IsReadOnly(col, row))
+        return UGCT_NOT_HANDLED;
     CUGCell cell;
     m_ctrl->GetCellRaw(col, row, &cell);
     cell.SetNumber(cell.GetNumber() == 0 ? 1 : 0);

@@ -1,5 +1,8 @@
 #include "grid/UGCnrBtn.h"
 
+#include "grid/ButtonWatch.h"
+#include "grid/CellDrawScope.h"
+#include "grid/PaintingScope.h"
 #include "grid/UGCtrl.h"
 #include "grid/UGPlacing.h"
 
@@ -47,6 +50,7 @@ void CUGCnrBtn::OnPaint() {
         m_cell.ClearAll();
         m_ctrl->GetCell(col, -1, &m_cell);
         CUGCellType *type = m_ctrl->GetCellType(m_cell.GetCellType());
+        const CUGCellDrawScope within(&dc, area);
         type->DrawBorder(&dc, &area, &m_cell);
         type->OnDraw(&dc, &area, &m_cell, 0, 0);
     }
@@ -71,25 +75,28 @@ void CUGCnrBtn::LookForEdge(CPoint point) {
 }
 
 void CUGCnrBtn::Drag(CPoint point) {
-    m_ctrl->EnablePainting(0);
-    if (m_sizeHeight) {
-        int height = std::max<int>(point.y, 0);
-        m_ctrl->OnTopHdgSizing(&height);
-        m_ctrl->SetTH_Height(height);
+    {
+        const CPaintingScope quiet(m_ctrl);
+        if (m_sizeHeight) {
+            int height = std::max<int>(point.y, 0);
+            m_ctrl->OnTopHdgSizing(&height);
+            m_ctrl->SetTH_Height(height);
+        }
+        if (m_sizeWidth) {
+            int width = std::max<int>(point.x, 0);
+            m_ctrl->OnSideHdgSizing(&width);
+            m_ctrl->SetSH_Width(width);
+        }
     }
-    if (m_sizeWidth) {
-        int width = std::max<int>(point.x, 0);
-        m_ctrl->OnSideHdgSizing(&width);
-        m_ctrl->SetSH_Width(width);
-    }
-    m_ctrl->EnablePainting(1);
     UpdateWindow();
     m_ctrl->m_topHdg.UpdateWindow();
     m_ctrl->m_sideHdg.UpdateWindow();
     m_ctrl->m_grid.UpdateWindow();
 }
 
-void CUGCnrBtn::OnMouseMove(UINT, CPoint point) {
+void CUGCnrBtn::OnMouseMove(UINT flags, CPoint point) {
+    if (!(flags & MK_LBUTTON) && GetCapture() == this)
+        ReleaseCapture(); // the release of the button went elsewhere, and ends the sizing here
     if (m_resizing)
         Drag(point);
     else
@@ -97,11 +104,17 @@ void CUGCnrBtn::OnMouseMove(UINT, CPoint point) {
 }
 
 void CUGCnrBtn::OnLButtonDown(UINT, CPoint point) {
+    const CUGButtonWatch button;
     LookForEdge(point);
+    if (GetSafeHwnd() == nullptr || button.CameUp())
+        return;
     SetCapture();
     m_resizing = m_sizeHeight || m_sizeWidth;
-    if (!m_resizing)
-        m_ctrl->OnCB_LClicked(1);
+    if (m_resizing)
+        return;
+    m_ctrl->OnCB_LClicked(1);
+    if (button.CameUp() && GetSafeHwnd() != nullptr && GetCapture() == this)
+        ReleaseCapture();
 }
 
 void CUGCnrBtn::OnLButtonUp(UINT, CPoint) {

@@ -1,5 +1,6 @@
 // Bringing the control up, laying its windows out, and its messages.
 #include "grid/UGCtrl.h"
+#include "grid/ValueScope.h"
 
 #include <algorithm>
 
@@ -12,6 +13,7 @@ BEGIN_MESSAGE_MAP(CUGCtrl, CWnd)
     ON_WM_ERASEBKGND()
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
+    ON_WM_MOUSEWHEEL()
     ON_WM_SYSCOLORCHANGE()
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
@@ -89,7 +91,8 @@ int CUGCtrl::OnCreate(LPCREATESTRUCT create) {
     if (!CreateChildren())
         return -1;
     m_dropTarget.Register(&m_grid); // fails without OLE: then nothing can be dropped
-    m_popupMenu.CreatePopupMenu();
+    if (m_popupMenu.GetSafeHmenu() == nullptr) // a window made anew has the menu as it was filled
+        m_popupMenu.CreatePopupMenu();
     OnSetup();
     const HFONT heading = m_GI.m_headingDefault.GetFontHandle();
     m_GI.FitDefaultsToText(TextHeight(m_GI.m_defaultFont),
@@ -160,15 +163,16 @@ void CUGCtrl::PlaceChildren(int width, int height) {
 void CUGCtrl::AdjustComponents() {
     if (m_grid.GetSafeHwnd() == nullptr || m_GI.m_adjusting)
         return;
-    m_GI.m_adjusting = 1;
-    CRect client;
-    GetClientRect(&client);
-    FitAxes(client.Width(), client.Height());
-    HoldLeadingInRange();
-    PlaceChildren(client.Width(), client.Height());
-    m_vScroll.UpdateRange();
-    m_hScroll.UpdateRange();
-    m_GI.m_adjusting = 0;
+    {
+        const CUGValueScope<int> adjusting(&m_GI.m_adjusting, 1);
+        CRect client;
+        GetClientRect(&client);
+        FitAxes(client.Width(), client.Height());
+        HoldLeadingInRange();
+        PlaceChildren(client.Width(), client.Height());
+        m_vScroll.UpdateRange();
+        m_hScroll.UpdateRange();
+    }
     Invalidate(FALSE);
     RedrawAll();
 }
@@ -198,6 +202,12 @@ void CUGCtrl::OnHScroll(UINT code, UINT, CScrollBar *) {
 
 void CUGCtrl::OnVScroll(UINT code, UINT, CScrollBar *) {
     m_vScroll.HandleScroll(code);
+}
+
+// The wheel comes to the window that has the focus, or the pointer; what has no use for it passes it on to here.
+BOOL CUGCtrl::OnMouseWheel(UINT, short delta, CPoint) {
+    m_grid.TurnWheel(delta);
+    return TRUE;
 }
 
 // The default colours follow the system. The types read the system's colours as they draw and keep no pens or

@@ -243,6 +243,9 @@ public:
     // Ends the edit in progress with nothing written; the cells get the focus that the edit box had.
     void CancelEdit();
     CEdit *GetEditControl();
+    // What SetCell answered when the text of the last edit was written: where it failed the source has its own text
+    // still, which the cell shows. OnEditContinue may ask, and keep the edit where it is.
+    int GetEditResult() const { return m_grid.m_edit.m_result; }
 
     // --- Cell types. Added types are borrowed.
     CUGCellType *GetCellType(int id);
@@ -271,6 +274,7 @@ protected:
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar *bar);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar *bar);
     afx_msg void OnSysColorChange();
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnDestroy();
     BOOL PreCreateWindow(CREATESTRUCT &create) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
@@ -315,7 +319,9 @@ private:
     int VerifyTopRow(long row);
     int MoveTo(int col, long row);
     int MoveViewTo(int leftCol, long topRow);
-    long StepOverJoin(bool rows, long target);
+    int StepTo(int col, long row);
+    UGJoin JoinAt(const CUGCell &cell, int col, long row);
+    RECT JoinRect(const UGJoin &join) const;
     void UpdateSelection();
     void UpdateFocusedType(int lastCol, long lastRow);
     CUGCellType *FocusedType();
@@ -326,6 +332,7 @@ private:
     int TranslatedColumn(int col);
     void ShowPopupMenu(int col, long row, int section, POINT screen);
     bool WrapEditCell(int *col, long *row);
+    bool FindEditCell(int dx, int *col, long *row);
     void DestroyEdit();
 
     CUGMem m_mem;

@@ -2,6 +2,7 @@
 #include "grid/UGCtrl.h"
 
 #include "grid/UGDrawRules.h"
+#include "grid/ValueScope.h"
 
 #include <algorithm>
 
@@ -36,8 +37,10 @@ int CUGCtrl::StartEdit(int key) {
     if (m_grid.GetSafeHwnd() == nullptr || !m_GI.m_cols.Contains(col) || !m_GI.m_rows.Contains(row))
         return GRID_ERROR;
     GetCell(col, row, &cell);
-    if (cell.GetReadOnly() == 1)
-        return GRID_ERROR;
+    RECT shown{};
+    GetCellRect(col, row, &shown);
+    if (cell.GetReadOnly() == 1 || shown.right <= shown.left)
+        return GRID_ERROR; // in a column of no width nobody would see what is typed
     ClearSelections();
     CUGCellType *type = GetCellType(cell.GetCellType());
     if (!type->CanTextEdit())
@@ -104,17 +107,34 @@ bool CUGCtrl::WrapEditCell(int *col, long *row) {
     return true;
 }
 
+// The same, and on past columns of no width, in the direction of the step. False where there is no cell to edit.
+bool CUGCtrl::FindEditCell(int dx, int *col, long *row) {
+    for (int tried = 0; tried <= GetNumberCols(); ++tried) {
+        if (!WrapEditCell(col, row))
+            return false;
+        if (m_GI.m_cols.SizeOf(*col) > 0)
+            return true;
+        *col += dx < 0 ? -1 : 1;
+    }
+    return false;
+}
+
 int CUGCtrl::EditContinue(int dx, int dy) {
     int col = m_GI.m_editCol + dx;
     long row = m_GI.m_editRow + dy;
-    WrapEditCell(&col, &row);
-    if (!OnEditContinue(GetCurrentCol(), GetCurrentRow(), &col, &row) || !WrapEditCell(&col, &row)) {
+    if (!FindEditCell(dx, &col, &row)) {
+        col = m_GI.m_editCol;
+        row = m_GI.m_editRow;
+    }
+    if (!OnEditContinue(GetCurrentCol(), GetCurrentRow(), &col, &row) || !FindEditCell(dx, &col, &row)) {
         DestroyEdit();
         m_grid.SetFocus();
         return GRID_ERROR;
     }
-    m_GI.m_moveType = UG_MOVED_BY_PROGRAM;
-    GotoCell(col, row);
+    {
+        const CUGValueScope<int> byProgram(&m_GI.m_moveType, UG_MOVED_BY_PROGRAM);
+        GotoCell(col, row);
+    }
     if (StartEdit() == GRID_SUCCESS)
         return GRID_SUCCESS;
     // The next cell takes no edit: the box of the last one, which is written, must not stay and take keys.

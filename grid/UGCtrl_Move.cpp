@@ -3,10 +3,10 @@
 
 #include <algorithm>
 
-// The row is one that the current cell can go to. GRID_ERROR also for the row where it stands.
+// The row is one that the current cell can go to. GRID_ERROR also for the row where it is; an empty table has none.
 int CUGCtrl::VerifyCurrentRow(long row) {
     CUGAxis &rows = m_GI.m_rows;
-    if (row == rows.m_current)
+    if (row == rows.m_current && rows.m_count > 0)
         return GRID_ERROR;
     if (row >= rows.m_count) {
         const long past = row - rows.m_count + 1;
@@ -58,7 +58,7 @@ int CUGCtrl::MoveTo(int col, long row) {
 int CUGCtrl::GotoCell(int col, long row) {
     if (!m_GI.m_cols.Contains(col))
         return GRID_ERROR;
-    if (row != GetCurrentRow() && VerifyCurrentRow(row) != GRID_SUCCESS)
+    if ((row != GetCurrentRow() || m_GI.m_rows.m_count == 0) && VerifyCurrentRow(row) != GRID_SUCCESS)
         return GRID_ERROR;
     if (col == GetCurrentCol() && row == GetCurrentRow())
         return GRID_SUCCESS;
@@ -68,45 +68,48 @@ int CUGCtrl::GotoCell(int col, long row) {
     return MoveTo(startCol, startRow);
 }
 
-// Where a step lands that begins inside a joined block: behind the block, not on its hidden part.
-long CUGCtrl::StepOverJoin(bool rows, long target) {
-    const int col = GetCurrentCol();
-    const long row = GetCurrentRow();
-    const long past = rows ? row : col;
-    if (target <= past && !rows)
-        return target;
+// A step of one axis to a cell of the table. From within a joined block it goes past the block, and stays where the
+// block reaches the end of the table; a block that it comes to is entered at its origin.
+int CUGCtrl::StepTo(int col, long row) {
+    const int fromCol = GetCurrentCol();
+    const long fromRow = GetCurrentRow();
+    if (col == fromCol && row == fromRow)
+        return GRID_SUCCESS;
     CUGCell cell;
-    GetCell(rows ? col : static_cast<int>(target), rows ? target : row, &cell);
-    if (!cell.IsJoined())
-        return target;
-    int left, right;
-    long top, bottom;
-    GetJoinRange(rows ? col : static_cast<int>(target), rows ? target : row, &left, &top, &right, &bottom);
-    const bool ownBlock = col >= left && col <= right && row >= top && row <= bottom;
-    if (!ownBlock)
-        return target;
-    const CUGAxis &axis = rows ? m_GI.m_rows : m_GI.m_cols;
-    return std::min((rows ? bottom : static_cast<long>(right)) + 1, axis.m_count - 1);
+    GetCell(col, row, &cell);
+    UGJoin join = JoinAt(cell, col, row);
+    if (join.Contains(fromCol, fromRow)) {
+        if (col != fromCol)
+            col = col > fromCol ? join.right + 1 : join.left - 1;
+        else
+            row = row > fromRow ? join.bottom + 1 : join.top - 1;
+        if (row != fromRow && VerifyCurrentRow(row) != GRID_SUCCESS)
+            return GRID_SUCCESS;
+        if (!m_GI.m_cols.Contains(col))
+            return GRID_SUCCESS;
+        cell.ClearAll();
+        GetCell(col, row, &cell);
+        join = JoinAt(cell, col, row);
+    }
+    return MoveTo(join.left, join.top);
 }
 
 int CUGCtrl::GotoRow(long row) {
     CUGAxis &rows = m_GI.m_rows;
-    if (rows.m_count < 1 || m_GI.m_cols.m_count < 1)
+    if (m_GI.m_cols.m_count < 1)
         return GRID_ERROR;
+    if (rows.m_count < 1)
+        row = std::min(row, 0L); // the first row is the next one there could be
     if (VerifyCurrentRow(row) != GRID_SUCCESS)
         row = std::clamp(row, 0L, std::max(rows.m_count - 1, 0L));
-    if (row != rows.m_current)
-        row = StepOverJoin(true, row);
-    return MoveTo(GetCurrentCol(), row);
+    return rows.m_count < 1 ? GRID_ERROR : StepTo(GetCurrentCol(), row);
 }
 
 int CUGCtrl::GotoCol(int col) {
-    CUGAxis &cols = m_GI.m_cols;
+    const CUGAxis &cols = m_GI.m_cols;
     if (cols.m_count < 1 || m_GI.m_rows.m_count < 1)
         return GRID_ERROR;
-    long target = std::clamp(static_cast<long>(col), 0L, cols.m_count - 1);
-    target = StepOverJoin(false, target);
-    return MoveTo(static_cast<int>(target), GetCurrentRow());
+    return StepTo(static_cast<int>(std::clamp(static_cast<long>(col), 0L, cols.m_count - 1)), GetCurrentRow());
 }
 
 namespace {

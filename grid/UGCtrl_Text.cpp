@@ -36,7 +36,8 @@ int CUGCtrl::PasteText(const char *text) {
     int col = startCol, maxCol = startCol;
     long row = startRow, maxRow = startRow;
     CUGCell cell;
-    while (*text != '\0') {
+    // A tab that ends the text has an empty field after it; a line end has no further line.
+    for (bool more = *text != '\0'; more;) {
         const char *end = text;
         while (*end != '\0' && *end != '\t' && *end != '\r' && *end != '\n')
             ++end;
@@ -49,7 +50,8 @@ int CUGCtrl::PasteText(const char *text) {
             maxCol = std::max(maxCol, col);
             maxRow = std::max(maxRow, row);
         }
-        if (*end == '\t') {
+        more = *end == '\t';
+        if (more) {
             ++col;
         } else {
             col = startCol;
@@ -58,6 +60,7 @@ int CUGCtrl::PasteText(const char *text) {
         if (*end == '\r' && end[1] == '\n')
             ++end;
         text = *end == '\0' ? end : end + 1;
+        more = more || *text != '\0';
     }
     ClearSelections();
     SelectRange(startCol, startRow, maxCol, maxRow);

@@ -16,7 +16,8 @@ CUGCellType *CUGCtrl::GetCellType(int id) {
                 return m_cellTypes[i];
         }
     }
-    return m_cellTypes[0];
+    // Whoever emptied the base type's entry left cells of every unknown id without a type: the control's own serves.
+    return m_cellTypes[0] != nullptr ? m_cellTypes[0] : m_builtInTypes[0].get();
 }
 
 long CUGCtrl::AddCellType(CUGCellType *type) {
@@ -33,9 +34,6 @@ long CUGCtrl::AddCellType(CUGCellType *type) {
 int CUGCtrl::RemoveCellType(long id) {
     for (CUGCellType *&type : m_cellTypes) {
         if (type != nullptr && type->GetID() == id) {
-            // The base type stays: cells of every unknown id are drawn by it.
-            if (&type == &m_cellTypes.front())
-                return GRID_ERROR;
             type = nullptr;
             return GRID_SUCCESS;
         }
@@ -51,18 +49,17 @@ int CUGCtrl::FitColumns(int firstCol, int lastCol, int rows, CellReader read) {
     const long below = GetNumberRows() - 1 - GetTopRow();
     const long lastRow = GetTopRow() + std::min<long>(rows, below); // a huge count is all rows
     std::vector<long> widths(lastCol - firstCol + 1, 0L);
-    CDC *dc = GetGridDC();
+    CClientDC dc(&m_grid);
     CUGCell cell;
     for (long row = GetTopRow(); row <= lastRow; ++row) {
         for (int col = firstCol; col <= lastCol; ++col) {
             cell.ClearAll();
             (this->*read)(col, row, &cell);
             SIZE size{};
-            GetCellType(cell.GetCellType())->GetBestSize(dc, &size, &cell);
+            GetCellType(cell.GetCellType())->GetBestSize(&dc, &size, &cell);
             widths[col - firstCol] = std::max<long>(widths[col - firstCol], size.cx);
         }
     }
-    ReleaseGridDC(dc);
     for (int col = firstCol; col <= lastCol; ++col)
         m_GI.SetColWidth(col, static_cast<int>(widths[col - firstCol]) + kBestFitMarginPx);
     AdjustAxes();

@@ -25,7 +25,7 @@ int CUGDropListType::OnLClicked(int col, long row, int updn, RECT *rect, POINT *
         return UGCT_HANDLED;
     }
     const RECT button = ButtonRect(*rect);
-    if (!::PtInRect(&button, *point)) {
+    if (!::PtInRect(&button, *point) || IsReadOnly(col, row)) {
         ForgetCell();
         return UGCT_NOT_HANDLED;
     }
@@ -48,8 +48,12 @@ int CUGDropListType::OnKeyDown(UINT *key) {
     const bool ctrl = (::GetKeyState(VK_CONTROL) & 0x8000) != 0;
     if (*key != VK_RETURN && !(*key == VK_DOWN && ctrl))
         return UGCT_NOT_HANDLED;
-    m_btnCol = m_ctrl->GetCurrentCol();
-    m_btnRow = m_ctrl->GetCurrentRow();
+    const int col = m_ctrl->GetCurrentCol();
+    const long row = m_ctrl->GetCurrentRow();
+    if (IsReadOnly(col, row))
+        return UGCT_NOT_HANDLED;
+    m_btnCol = col;
+    m_btnRow = row;
     OpenList();
     *key = 0;
     return UGCT_HANDLED;

@@ -1,8 +1,7 @@
 #include "grid/UGEdit.h"
 
 #include "grid/UGCtrl.h"
-
-#include <cctype>
+#include "grid/ValueScope.h"
 
 IMPLEMENT_DYNAMIC(CUGEdit, CEdit)
 
@@ -48,29 +47,50 @@ void CUGEdit::Show(int key) {
         SendMessage(WM_CHAR, key, 0);
 }
 
-// 1: nothing more is owed, and what was typed stands in the cell. 0: the notification stopped the write.
-int CUGEdit::Finish() {
-    if (!m_active)
-        return 1;
-    m_active = false;
-    // The cell that the box stands over: a notification may have made another one current meanwhile, as when a
-    // key appends a record, and the text must not end up there.
-    const int col = m_ctrl->m_GI.m_editCol;
-    const long row = m_ctrl->m_GI.m_editRow;
-    if (!m_ctrl->OnEditFinish(col, row, this)) {
-        m_active = true; // the box stays open and asks again
-        return 0;
-    }
+// Asks the notification. It may pump messages, a box of the host's say, which takes the focus: the box stays open
+// until the answer is known. False also where it is gone after all, or another edit stands in its place.
+bool CUGEdit::AskFinish(int col, long row) {
+    const HWND asked = m_hWnd;
+    const int answer = m_ctrl->OnEditFinish(col, row, this);
+    if (m_hWnd == nullptr || m_hWnd != asked)
+        return false;
+    return answer != 0;
+}
+
+// What was typed, into the cell that the box stands over: a notification may have made another one current
+// meanwhile, as when a key appends a record, and the text must not end up there.
+void CUGEdit::Write(int col, long row) {
     CString text;
     GetWindowText(text);
     CUGCell cell;
     m_ctrl->GetCellRaw(col, row, &cell);
     cell.SetText(text);
-    m_ctrl->SetCell(col, row, &cell);
+    m_result = m_ctrl->SetCell(col, row, &cell);
     m_ctrl->RedrawCell(col, row); // what the box does not cover, and where else a locked column shows
     m_written = true;
     if (m_listener != nullptr)
         m_listener->EditWritten();
+}
+
+// 1: nothing more is owed, and the edit may move on: the text was handed to the cell, or there was nothing to
+// finish. A write that fails gives 1 as well, since the host's notification and the source have had their say: the
+// result is kept for OnEditContinue, and the cell shows what the source has. 0: nothing was written, for the
+// notification stopped it, or the box went while it was asked, or it is being asked already.
+int CUGEdit::Finish() {
+    if (m_finishing)
+        return 0;
+    if (!m_active)
+        return 1;
+    const int col = m_ctrl->m_GI.m_editCol;
+    const long row = m_ctrl->m_GI.m_editRow;
+    const HWND box = m_hWnd;
+    const CUGValueScope<bool> finishing(&m_finishing, true);
+    if (!AskFinish(col, row))
+        return 0; // and the finish stays owed
+    Write(col, row);
+    if (m_hWnd != nullptr && m_hWnd != box)
+        return 0; // the write began another edit
+    m_active = false; // a focus that came back owes nothing: the text stands
     return 1;
 }
 
@@ -78,6 +98,8 @@ void CUGEdit::FinishAndContinue(int dx, int dy) {
     CUGCtrl *ctrl = m_ctrl;
     if (Finish())
         ctrl->EditContinue(dx, dy);
+    else if (m_active && m_hWnd != nullptr && ::GetFocus() != m_hWnd)
+        SetFocus(); // the text waits to be put right, and a box of the host's had the focus
 }
 
 void CUGEdit::OnKeyDown(UINT key, UINT, UINT) {
@@ -106,22 +128,22 @@ void CUGEdit::OnKeyUp(UINT key, UINT, UINT) {
         Default();
 }
 
-// Clears the selection and puts a literal in front of the character where one belongs. False refuses it.
+// Clears the selection and passes the literals that stand or belong where the caret is. False refuses the character,
+// and puts nothing in.
 bool CUGEdit::PassMask(char character) {
     SendMessage(WM_CLEAR, 0, 0);
     int start, end;
     GetSel(start, end);
-    if (start >= m_mask.Length())
+    CString text;
+    GetWindowText(text);
+    const CUGEditMask::Place place = m_mask.PlaceOf(static_cast<const char *>(text), start);
+    if (!m_mask.Accepts(place.position, character))
         return false;
-    if (const char literal = m_mask.LiteralAt(start)) {
-        m_maskBusy = true;
+    SetSel(start + place.passed, start + place.passed);
+    const CUGValueScope<bool> busy(&m_maskBusy, true);
+    for (const char literal : place.missing)
         SendMessage(WM_CHAR, static_cast<unsigned char>(literal), 0);
-        m_maskBusy = false;
-        ++start;
-        if (start >= m_mask.Length())
-            return false;
-    }
-    return m_mask.Accepts(start, character);
+    return true;
 }
 
 void CUGEdit::OnChar(UINT key, UINT, UINT) {
@@ -151,13 +173,15 @@ void CUGEdit::OnSetFocus(CWnd *old) {
 
 void CUGEdit::OnKillFocus(CWnd *next) {
     CEdit::OnKillFocus(next);
-    if (m_ctrl->m_GI.m_suppressFinish || !m_focusSeen)
+    if (m_ctrl->m_GI.m_suppressFinish || !m_focusSeen || m_finishing)
         return;
     m_mask.Set(nullptr);
+    const HWND left = m_hWnd;
     Finish();
+    if (m_hWnd != left)
+        return; // the notification ended this edit, and may have begun another
     m_active = false;
-    if (GetSafeHwnd() != nullptr)
-        DestroyWindow();
+    DestroyWindow();
 }
 
 // Tab moves on to the next cell, and Enter and Escape end the edit: a dialog must not take them.
@@ -187,8 +211,7 @@ void CUGEdit::Reformat() {
         return;
     int start, end;
     GetSel(start, end);
-    m_maskBusy = true;
+    const CUGValueScope<bool> busy(&m_maskBusy, true);
     SetWindowText(formatted.c_str());
     SetSel(start, end);
-    m_maskBusy = false;
 }

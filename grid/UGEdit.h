@@ -30,10 +30,11 @@ public:
     // Shows it with all selected; a key above 0 is typed into it.
     void Show(int key);
 
-    bool m_active = false; // a finish is still owed
-    bool m_written = false; // the text was handed to the cell as it is
+    bool m_active = false;                 // a finish is still owed
+    int m_result = 0;                      // of the last write, a GRID_ code
+    bool m_written = false;                // the text was handed to the cell as it is
     CUGEditListener *m_listener = nullptr; // borrowed
-    CPoint m_inset;        // from the cell's corner to the box, pixels
+    CPoint m_inset;                        // from the cell's corner to the box, pixels
 
 private:
     friend class CUGCtrl;
@@ -47,6 +48,8 @@ private:
     afx_msg void OnUpdateText();
 
     int Finish();
+    bool AskFinish(int col, long row);
+    void Write(int col, long row);
     void FinishAndContinue(int dx, int dy);
     bool PassMask(char character);
     void Reformat();
@@ -55,4 +58,5 @@ private:
     CUGEditMask m_mask;
     bool m_maskBusy = false;   // the mask code itself is changing the text
     bool m_focusSeen = false;
+    bool m_finishing = false;  // OnEditFinish is being asked: the box stays, whoever takes the focus
 };

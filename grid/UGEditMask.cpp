@@ -1,6 +1,6 @@
 #include "grid/UGEditMask.h"
 
-#include <cctype>
+#include "grid/MaskLetters.h"
 
 namespace {
 
@@ -11,17 +11,27 @@ bool IsMaskCharacter(char c) {
     return std::string(kMaskCharacters).find(c) != std::string::npos;
 }
 
-bool Matches(char kind, unsigned char c) {
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+bool IsPrintable(char c) {
+    constexpr unsigned char kDelete = 127;
+    const unsigned char value = static_cast<unsigned char>(c);
+    return value >= ' ' && value != kDelete;
+}
+
+bool Matches(char kind, char c) {
     switch (kind) {
-    case '#': return std::isdigit(c) || c == ' ' || c == 'k' || c == 'm';
+    case '#': return IsDigit(c) || c == ' ' || c == 'k' || c == 'm';
     case '&':
-    case 'C': return std::isprint(c) || c >= 0x80;
-    case '0': return std::isdigit(c);
-    case '9': return std::isdigit(c) || c == ' ';
-    case '?': return std::isalpha(c) || c == ' ';
-    case 'A': return std::isalnum(c);
-    case 'L': return std::isalpha(c);
-    case 'a': return std::isalnum(c) || c == ' ';
+    case 'C': return IsPrintable(c);
+    case '0': return IsDigit(c);
+    case '9': return IsDigit(c) || c == ' ';
+    case '?': return UGIsLetter(c) || c == ' ';
+    case 'A': return UGIsLetterOrDigit(c);
+    case 'L': return UGIsLetter(c);
+    case 'a': return UGIsLetterOrDigit(c) || c == ' ';
     default: return true;
     }
 }
@@ -47,9 +57,22 @@ char CUGEditMask::LiteralAt(int position) const {
     return m_literals[position];
 }
 
+CUGEditMask::Place CUGEditMask::PlaceOf(const std::string &text, int caret) const {
+    Place place{caret, 0, {}};
+    for (; const char literal = LiteralAt(place.position); ++place.position) {
+        const bool stands = place.missing.empty() && static_cast<size_t>(place.position) < text.size() &&
+                            text[place.position] == literal;
+        if (stands)
+            ++place.passed;
+        else
+            place.missing += literal;
+    }
+    return place;
+}
+
 bool CUGEditMask::Accepts(int position, char character) const {
     return position >= 0 && position < Length() &&
-           Matches(m_kinds[position], static_cast<unsigned char>(character));
+           Matches(m_kinds[position], character);
 }
 
 std::string CUGEditMask::Reformat(const std::string &text) const {

@@ -12,6 +12,14 @@ public:
     // Positions, which is also the longest text.
     int Length() const { return static_cast<int>(m_kinds.size()); }
 
+    // Where a character goes that is typed at the caret: behind the literals there.
+    struct Place {
+        int position;        // where the character will stand; the length where nothing more can be typed
+        int passed;          // literals that stand in the text already
+        std::string missing; // those to put in behind them
+    };
+    Place PlaceOf(const std::string &text, int caret) const;
+
     // The literal at a position, or 0 where a typed character goes.
     char LiteralAt(int position) const;
     // Whether the character may be typed at a position that holds no literal.

@@ -13,6 +13,16 @@ class CUGCellType;
 class CUGCtrl;
 class CUGGridInfo;
 
+// A joined block: its first and its last cell.
+struct UGJoin {
+    int left;
+    long top;
+    int right;
+    long bottom;
+
+    bool Contains(int col, long row) const { return col >= left && col <= right && row >= top && row <= bottom; }
+};
+
 class ORVANE_API CUGGrid : public CWnd {
     DECLARE_DYNAMIC(CUGGrid)
 
@@ -23,6 +33,8 @@ public:
     // Marks every visible cell of the selected blocks for repaint.
     void InvalidateSelection();
     void SetDoubleBuffer(bool on);
+    // Scrolls the cells by a turn of the wheel, which may come in parts of a notch.
+    void TurnWheel(int delta);
     // The double focus frame of the current cell, within its rectangle. It inverts what is there.
     static void DrawFocusFrame(CDC *dc, RECT cell);
     // From the button going down until it is up again, or something else takes the mouse.
@@ -61,12 +73,12 @@ private:
         CDC *dc;
         RECT clip;
         bool simpleClip; // the clip is one rectangle: it alone tells what shows
-        std::vector<std::pair<int, long>> joinsDrawn; // origins of the blocks that stand already
+        std::vector<UGJoin> joinsDrawn; // the blocks that stand already
     };
     void DrawAll(CDC *dc, const RECT &clip);
     void DrawRow(Pass &pass, long row, int top, int bottom);
     void DrawCell(Pass &pass, int col, long row, RECT rect);
-    void DrawJoined(Pass &pass, int col, long row);
+    bool BeginJoin(Pass &pass, int *col, long *row, RECT *rect);
     void FillBeyond(CDC *dc, int right, int bottom);
     void DrawFocusFrame(CDC *dc);
     void PaintBuffered(CDC *dc, const RECT &clip);
@@ -79,6 +91,7 @@ private:
     RECT TypeArea(int col, long row, RECT rect);
     int PressOnType(int col, long row, const RECT &rect, POINT *point);
     void HoldMouse();
+    void LetMouseGo();
     void SyncShown();
     void DragTo(CPoint point);
     void DragScroll(CPoint point);

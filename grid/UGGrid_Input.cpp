@@ -1,8 +1,10 @@
 // Keys and mouse in the cell area.
+#include "grid/ButtonWatch.h"
 #include "grid/UGCtrl.h"
 
 #include "grid/UGDragScroll.h"
 #include "grid/UGDrawRules.h"
+#include "grid/ValueScope.h"
 
 #include <algorithm>
 
@@ -50,9 +52,8 @@ void CUGGrid::OnKeyDown(UINT key, UINT, UINT) {
     const bool ctrl = (::GetKeyState(VK_CONTROL) & 0x8000) != 0;
     for (const KeyMove &entry : kKeyMoves) {
         if (entry.key == key && entry.ctrl == ctrl) {
-            m_GI->m_moveType = UG_MOVED_BY_KEY;
+            const CUGValueScope<int> byKey(&m_GI->m_moveType, UG_MOVED_BY_KEY);
             (m_ctrl->*entry.move)(entry.how);
-            m_GI->m_moveType = UG_MOVED_BY_PROGRAM;
             break;
         }
     }
@@ -69,11 +70,9 @@ void CUGGrid::OnChar(UINT key, UINT, UINT) {
 
 // The cell that the mouse names becomes current without the view scrolling under the pointer.
 void CUGGrid::GoByMouse(int moveType, int col, long row) {
-    m_GI->m_moveType = moveType;
-    m_GI->m_scrollMargin = 0;
+    const CUGValueScope<int> type(&m_GI->m_moveType, moveType);
+    const CUGValueScope<int> margin(&m_GI->m_scrollMargin, 0);
     m_ctrl->GotoCell(col, row);
-    m_GI->m_scrollMargin = 1;
-    m_GI->m_moveType = UG_MOVED_BY_PROGRAM;
 }
 
 // What a cell's type paints in, and so what it takes clicks in: the cell without its border.
@@ -100,8 +99,22 @@ void CUGGrid::HoldMouse() {
     m_captured = true;
 }
 
+// The press is over without its release having come: the button that it pressed in a cell comes up, as when the
+// pointer leaves it, and acts no more.
+void CUGGrid::LetMouseGo() {
+    CPoint outside(-1, -1);
+    if (CUGCellType *tracker = std::exchange(m_tracker, nullptr))
+        tracker->OnMouseMove(&outside, MK_LBUTTON);
+    m_captured = false;
+    if (GetSafeHwnd() != nullptr && GetCapture() == this)
+        ReleaseCapture();
+}
+
 void CUGGrid::OnLButtonDown(UINT, CPoint point) {
-    SetFocus();
+    const CUGButtonWatch button;
+    SetFocus(); // ends an edit, which may ask the user
+    if (GetSafeHwnd() == nullptr)
+        return;
     m_tracker = nullptr;
     m_dragStarted = false;
     int col;
@@ -117,10 +130,12 @@ void CUGGrid::OnLButtonDown(UINT, CPoint point) {
         row = -1;
     }
     m_ctrl->OnLClicked(col, row, 1, &rect, &point, processed);
-    if (GetSafeHwnd() != nullptr && !m_dragStarted)
-        HoldMouse();
-    else
+    if (GetSafeHwnd() == nullptr || m_dragStarted)
         m_tracker = nullptr;
+    else if (button.CameUp())
+        LetMouseGo();
+    else
+        HoldMouse();
 }
 
 void CUGGrid::OnLButtonUp(UINT, CPoint point) {
@@ -147,6 +162,7 @@ void CUGGrid::OnLButtonUp(UINT, CPoint point) {
 }
 
 void CUGGrid::OnLButtonDblClk(UINT, CPoint point) {
+    const CUGButtonWatch button;
     int col;
     long row;
     RECT rect{};
@@ -157,16 +173,20 @@ void CUGGrid::OnLButtonDblClk(UINT, CPoint point) {
         RECT area = TypeArea(col, row, rect);
         processed = type->OnDClicked(col, row, &area, &point);
         // A button that was pressed by it is released with the mouse's button.
-        if (processed == UGCT_HANDLED) {
+        if (processed == UGCT_HANDLED && GetSafeHwnd() != nullptr) {
             HoldMouse();
             m_tracker = type;
         }
     }
     m_ctrl->OnDClicked(col, row, &rect, &point, processed);
+    if (m_captured && button.CameUp())
+        LetMouseGo();
 }
 
 void CUGGrid::OnRButtonDown(UINT, CPoint point) {
     SetFocus();
+    if (GetSafeHwnd() == nullptr)
+        return;
     int col;
     long row;
     RECT rect{};
@@ -180,6 +200,8 @@ void CUGGrid::OnRButtonDown(UINT, CPoint point) {
         }
     }
     m_ctrl->OnRClicked(col, row, 1, &rect, &point, processed);
+    if (GetSafeHwnd() == nullptr)
+        return;
     CPoint screen = point;
     ClientToScreen(&screen);
     m_ctrl->ShowPopupMenu(col, row, UG_SECTION_GRID, screen);
@@ -194,8 +216,12 @@ void CUGGrid::OnRButtonUp(UINT, CPoint point) {
 }
 
 void CUGGrid::OnMouseMove(UINT flags, CPoint point) {
-    if (!m_captured || !(flags & MK_LBUTTON) || GetCapture() != this)
+    if (!m_captured || GetCapture() != this)
         return;
+    if (!(flags & MK_LBUTTON)) {
+        LetMouseGo(); // the release went elsewhere
+        return;
+    }
     if (m_tracker != nullptr) {
         m_tracker->OnMouseMove(&point, flags);
         return;
@@ -218,7 +244,8 @@ void CUGGrid::DragTo(CPoint point) {
 // Scrolls while the pointer stays outside; ends with the next move or release of the mouse, which stays in the
 // queue for its own handler.
 void CUGGrid::DragScroll(CPoint point) {
-    m_dragScrolling = true;
+    const CUGValueScope<bool> scrolling(&m_dragScrolling, true);
+    const CUGButtonWatch button;
     MSG message;
     const HWND window = m_hWnd;
     while (::IsWindow(window)) {
@@ -234,10 +261,16 @@ void CUGGrid::DragScroll(CPoint point) {
                 break;
             continue;
         }
-        if (!DragStep(point))
+        const bool stepped = DragStep(point);
+        if (!::IsWindow(window) || ::GetCapture() != window)
+            break;
+        if (button.CameUp()) {
+            LetMouseGo();
+            break;
+        }
+        if (!stepped)
             ::WaitMessage();
     }
-    m_dragScrolling = false;
 }
 
 // One step of the drag scrolling, each axis by itself; false when it led nowhere.
@@ -246,12 +279,11 @@ bool CUGGrid::DragStep(CPoint point) {
     const long col = cols.m_current, row = rows.m_current;
     const UGDragStep across = UGDragStepOf(point.x, cols.m_extent, cols.m_defaultSize / 2, m_GI->m_ballisticMode, false);
     const UGDragStep down = UGDragStepOf(point.y, rows.m_extent, rows.m_defaultSize, m_GI->m_ballisticMode, true);
-    m_GI->m_moveType = UG_MOVED_BY_DRAG;
+    const CUGValueScope<int> byDrag(&m_GI->m_moveType, UG_MOVED_BY_DRAG);
     if (across.m_steps != 0)
         m_ctrl->GotoCol(static_cast<int>(UGDragTarget(col, across.m_steps)));
     if (down.m_steps != 0)
         m_ctrl->GotoRow(UGDragTarget(row, down.m_steps));
-    m_GI->m_moveType = UG_MOVED_BY_PROGRAM;
     if (cols.m_current == col && rows.m_current == row)
         return false;
     UpdateWindow();
@@ -261,6 +293,11 @@ bool CUGGrid::DragStep(CPoint point) {
 }
 
 BOOL CUGGrid::OnMouseWheel(UINT, short delta, CPoint) {
+    TurnWheel(delta);
+    return TRUE;
+}
+
+void CUGGrid::TurnWheel(int delta) {
     UINT lines = 3;
     ::SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
     m_wheelRest += delta;
@@ -271,7 +308,6 @@ BOOL CUGGrid::OnMouseWheel(UINT, short delta, CPoint) {
     const int steps = std::abs(notches) * (pages ? 1 : static_cast<int>(lines));
     for (int i = 0; i < steps; ++i)
         m_ctrl->m_vScroll.HandleScroll(pages ? (back ? SB_PAGEUP : SB_PAGEDOWN) : (back ? SB_LINEUP : SB_LINEDOWN));
-    return TRUE;
 }
 
 // Whoever took the mouse keeps the release of the button to itself: nothing waits for it any more.

@@ -1,7 +1,8 @@
 // Painting the cells. The state block is read directly and one scratch cell serves all; nothing of a cell is
 // kept from one paint to the next.
+#include "grid/CellDrawScope.h"
 #include "grid/UGCtrl.h"
-#include "grid/UGSmallCellClip.h"
+#include "grid/ValueScope.h"
 
 #include <algorithm>
 
@@ -55,35 +56,45 @@ void CUGGrid::DrawRow(Pass &pass, long row, int top, int bottom) {
     }
 }
 
+// The cell that was read is one of a block: false where the block is drawn already, otherwise its origin with the
+// block's rectangle, and the origin's cell.
+bool CUGGrid::BeginJoin(Pass &pass, int *col, long *row, RECT *rect) {
+    UGJoin join{};
+    if (!m_ctrl->GetJoinOrigin(m_cell, *col, *row, &join.left, &join.top))
+        return true;
+    const auto isIts = [&](const UGJoin &drawn) {
+        return drawn.left == join.left && drawn.top == join.top && drawn.Contains(*col, *row);
+    };
+    if (std::any_of(pass.joinsDrawn.rbegin(), pass.joinsDrawn.rend(), isIts))
+        return false;
+    join = m_ctrl->JoinAt(m_cell, *col, *row);
+    pass.joinsDrawn.push_back(join);
+    *rect = m_ctrl->JoinRect(join);
+    if (join.left == *col && join.top == *row)
+        return true;
+    *col = join.left;
+    *row = join.top;
+    m_cell.ClearAll();
+    m_ctrl->GetCell(*col, *row, &m_cell);
+    return true;
+}
+
 void CUGGrid::DrawCell(Pass &pass, int col, long row, RECT rect) {
     m_cell.ClearAll();
     m_ctrl->GetCell(col, row, &m_cell);
-    std::pair<int, long> origin(col, row);
-    if (m_cell.IsJoined()) {
-        int endCol;
-        long endRow;
-        m_ctrl->GetJoinRange(col, row, &origin.first, &origin.second, &endCol, &endRow);
-        if (std::find(pass.joinsDrawn.begin(), pass.joinsDrawn.end(), origin) != pass.joinsDrawn.end())
-            return;
-        pass.joinsDrawn.push_back(origin);
-        col = origin.first;
-        row = origin.second;
-        m_ctrl->GetCellRect(col, row, &rect);
-        m_cell.ClearAll();
-        m_ctrl->GetCell(col, row, &m_cell);
-    }
+    if (m_cell.IsJoined() && !BeginJoin(pass, &col, &row, &rect))
+        return;
     const bool currentRow = row == m_GI->m_rows.m_current;
     const bool isCell = currentRow && col == m_GI->m_cols.m_current;
     const bool current = m_GI->m_rowHighlight ? currentRow : isCell;
     const bool selected = m_GI->m_multiSelect ? !isCell && m_GI->m_selection.IsSelected(col, row)
                                               : m_GI->m_rowHighlight && currentRow;
     CUGCellType *type = m_ctrl->GetCellType(m_cell.GetCellType());
-    const CUGSmallCellClip within(pass.dc, rect);
+    const CUGCellDrawScope within(pass.dc, rect);
     type->DrawBorder(pass.dc, &rect, &m_cell);
-    m_GI->m_paintCol = col;
-    m_GI->m_paintRow = row;
+    const CUGValueScope<int> paintCol(&m_GI->m_paintCol, col);
+    const CUGValueScope<long> paintRow(&m_GI->m_paintRow, row);
     type->OnDraw(pass.dc, &rect, &m_cell, selected, current);
-    m_GI->m_paintCol = -1;
 }
 
 // What no cell covers has the back colour of the headings.

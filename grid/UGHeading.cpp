@@ -1,7 +1,8 @@
 #include "grid/UGHeading.h"
 
+#include "grid/ButtonWatch.h"
+#include "grid/CellDrawScope.h"
 #include "grid/UGCtrl.h"
-#include "grid/UGSmallCellClip.h"
 
 #include <utility>
 
@@ -67,7 +68,7 @@ void CUGHeading::DrawHeadingCell(CDC *dc, int col, long row, RECT rect) {
     m_cell.ClearAll();
     m_ctrl->GetCell(col, row, &m_cell);
     CUGCellType *type = m_ctrl->GetCellType(m_cell.GetCellType());
-    const CUGSmallCellClip within(dc, rect);
+    const CUGCellDrawScope within(dc, rect);
     type->DrawBorder(dc, &rect, &m_cell);
     type->OnDraw(dc, &rect, &m_cell, 0, 0);
 }
@@ -107,7 +108,9 @@ void CUGHeading::DragEdge(CPoint point) {
     m_ctrl->PlaceEdit();
 }
 
-void CUGHeading::OnMouseMove(UINT, CPoint point) {
+void CUGHeading::OnMouseMove(UINT flags, CPoint point) {
+    if (!(flags & MK_LBUTTON) && GetCapture() == this)
+        ReleaseCapture(); // the release of the button went elsewhere, and ends the sizing here
     if (m_resizing)
         DragEdge(point);
     else
@@ -115,16 +118,26 @@ void CUGHeading::OnMouseMove(UINT, CPoint point) {
 }
 
 void CUGHeading::OnLButtonDown(UINT, CPoint point) {
-    m_ctrl->m_grid.SetFocus();
-    SetCapture();
+    const CUGButtonWatch button;
+    m_ctrl->m_grid.SetFocus(); // ends an edit, which may ask the user
+    if (GetSafeHwnd() == nullptr)
+        return;
+    if (!button.CameUp())
+        SetCapture();
     LookForEdge(point);
     if (m_canSize) {
+        if (GetCapture() != this)
+            return;
         m_resizing = true;
         m_startSize = Axis().SizeOf(m_sizeIndex);
         m_startPosition = Along(point);
         return;
     }
     LClicked(Axis().At(Along(point)), 1);
+    // The notification may have given the mouse to the control.
+    const HWND holder = ::GetCapture();
+    if (button.CameUp() && holder != nullptr && (holder == m_hWnd || holder == m_ctrl->m_hWnd))
+        ::ReleaseCapture();
 }
 
 void CUGHeading::OnLButtonUp(UINT, CPoint point) {
@@ -139,18 +152,20 @@ void CUGHeading::OnLButtonUp(UINT, CPoint point) {
     m_ctrl->RedrawAll();
     if (!Axis().Contains(m_sizeIndex))
         return;
-    int size = Axis().SizeOf(m_sizeIndex);
+    const int shown = Axis().SizeOf(m_sizeIndex);
+    int size = shown;
     Sized(m_sizeIndex, &size);
     if (Axis().Contains(m_sizeIndex))
         StoreSize(m_sizeIndex, size);
     m_ctrl->AdjustAxes();
+    if (size != shown)
+        m_ctrl->RedrawAll();
 }
 
 // Whoever took the mouse keeps the release of the button to itself: the edge stays where it is. Other sizes are
 // in the table since, so its end is reckoned as after a release.
 void CUGHeading::OnCaptureChanged(CWnd *next) {
-    if (next != this && m_resizing) {
-        m_resizing = false;
+    if (next != this && std::exchange(m_resizing, false)) {
         m_ctrl->AdjustAxes();
         m_ctrl->RedrawAll();
     }

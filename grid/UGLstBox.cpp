@@ -1,6 +1,7 @@
 #include "grid/UGLstBox.h"
 
 #include "grid/UGCtrl.h"
+#include "grid/ValueScope.h"
 
 #include <utility>
 
@@ -39,10 +40,11 @@ void CUGLstBox::Take() {
     const int col = *m_col;
     const long row = *m_row;
     // The receiver may take the focus away, with a message box say: the item is chosen all the same.
-    m_choosing = true;
-    m_ctrl->OnCellTypeNotify(kDropListTypeId, col, row, kItemChosen,
-                             reinterpret_cast<LPARAM>(static_cast<const char *>(text)));
-    m_choosing = false;
+    {
+        const CUGValueScope<bool> choosing(&m_choosing, true);
+        m_ctrl->OnCellTypeNotify(kDropListTypeId, col, row, kItemChosen,
+                                 reinterpret_cast<LPARAM>(static_cast<const char *>(text)));
+    }
     CUGCell cell;
     m_ctrl->GetCellRaw(col, row, &cell);
     cell.SetText(text);

@@ -3,6 +3,7 @@
 #include "grid/UGDefine.h"
 
 #include <algorithm>
+#include <limits>
 #include <tuple>
 
 bool CUGSelectionList::Block::Contains(int col, long row, UGSelectMode mode) const {
@@ -20,7 +21,10 @@ void CUGSelectionList::StartBlock(int col, long row) {
         return;
     if (m_mode == UG_SELECT_ROWS)
         col = 1;
-    m_blocks.push_back({col, col, row, row, col, col, row, row, true});
+    const Block block{col, col, row, row, col, col, row, row, true};
+    if (m_open && m_blocks.back() == block)
+        return; // again and again at the same cell it would pile up
+    m_blocks.push_back(block);
     m_open = true;
 }
 
@@ -87,14 +91,69 @@ bool CUGSelectionList::BoxOfBlocks(Block *box) const {
     return true;
 }
 
-bool CUGSelectionList::AnySelected(int left, long top, int right, long bottom) const {
-    for (long row = top; row <= bottom; ++row) {
-        for (int col = left; col <= right; ++col) {
-            if (IsSelected(col, row))
-                return true;
+// The first selected column of [from, to] in a row. From one column that decides the next one to look at is where a
+// block begins or ends.
+bool CUGSelectionList::FindInRow(long row, int from, int to, int *found) const {
+    for (long long col = from; col <= to;) {
+        long long next = to + 1LL;
+        bool selected = false;
+        for (auto block = m_blocks.rbegin(); block != m_blocks.rend(); ++block) {
+            if (row < block->top || row > block->bottom)
+                continue;
+            if (block->Contains(static_cast<int>(col), row, m_mode)) {
+                selected = block->selected;
+                if (m_mode != UG_SELECT_ROWS)
+                    next = std::min(next, block->right + 1LL);
+                break;
+            }
+            if (block->left > col)
+                next = std::min<long long>(next, block->left);
         }
+        if (selected) {
+            *found = static_cast<int>(col);
+            return true;
+        }
+        col = next;
     }
     return false;
+}
+
+// The same from the right: the last selected column of [from, to].
+bool CUGSelectionList::FindInRowBack(long row, int from, int to, int *found) const {
+    for (long long col = to; col >= from;) {
+        long long next = from - 1LL;
+        bool selected = false;
+        for (auto block = m_blocks.rbegin(); block != m_blocks.rend(); ++block) {
+            if (row < block->top || row > block->bottom)
+                continue;
+            if (block->Contains(static_cast<int>(col), row, m_mode)) {
+                selected = block->selected;
+                if (m_mode != UG_SELECT_ROWS)
+                    next = std::max(next, block->left - 1LL);
+                break;
+            }
+            if (block->right < col)
+                next = std::max<long long>(next, block->right);
+        }
+        if (selected) {
+            *found = static_cast<int>(col);
+            return true;
+        }
+        col = next;
+    }
+    return false;
+}
+
+// The last row from this one on that the same blocks contain: all up to it are alike.
+long CUGSelectionList::LastLike(long row) const {
+    long last = std::numeric_limits<long>::max();
+    for (const Block &block : m_blocks) {
+        if (block.top > row)
+            last = std::min(last, block.top - 1);
+        else if (block.bottom >= row)
+            last = std::min(last, block.bottom);
+    }
+    return last;
 }
 
 bool CUGSelectionList::GetBounds(int *left, long *top, int *right, long *bottom) const {
@@ -103,21 +162,21 @@ bool CUGSelectionList::GetBounds(int *left, long *top, int *right, long *bottom)
         return false;
     if (m_mode == UG_SELECT_ROWS)
         box.left = box.right = 0;
-    while (box.top <= box.bottom && !AnySelected(box.left, box.top, box.right, box.top))
-        ++box.top;
-    if (box.top > box.bottom)
-        return false;
-    while (!AnySelected(box.left, box.bottom, box.right, box.bottom))
-        --box.bottom;
-    while (!AnySelected(box.left, box.top, box.left, box.bottom))
-        ++box.left;
-    while (!AnySelected(box.right, box.top, box.right, box.bottom))
-        --box.right;
-    *left = box.left;
-    *top = box.top;
-    *right = box.right;
-    *bottom = box.bottom;
-    return true;
+    bool any = false;
+    for (long row = box.top;; ++row) {
+        const long last = std::min(LastLike(row), box.bottom);
+        int first, end;
+        if (FindInRow(row, box.left, box.right, &first) && FindInRowBack(row, box.left, box.right, &end)) {
+            *left = any ? std::min(*left, first) : first;
+            *right = any ? std::max(*right, end) : end;
+            *top = any ? *top : row;
+            *bottom = last;
+            any = true;
+        }
+        if (last == box.bottom)
+            return any;
+        row = last;
+    }
 }
 
 int CUGSelectionList::EnumFirst(int currentCol, long currentRow, int *col, long *row) {
@@ -137,18 +196,22 @@ int CUGSelectionList::EnumFirst(int currentCol, long currentRow, int *col, long 
 int CUGSelectionList::EnumNext(int *col, long *row) {
     if (m_mode == UG_SELECT_OFF || !m_enumerating)
         return GRID_ERROR;
-    return EnumFrom(m_enumCol + 1, m_enumRow, col, row);
+    return EnumFrom(m_enumCol + 1LL, m_enumRow, col, row);
 }
 
-int CUGSelectionList::EnumFrom(int col, long row, int *foundCol, long *foundRow) {
-    for (; row <= m_enumBox.bottom; ++row, col = m_enumBox.left) {
-        for (; col <= m_enumBox.right; ++col) {
-            if (!IsSelected(col, row))
-                continue;
-            m_enumCol = *foundCol = col;
+int CUGSelectionList::EnumFrom(long long col, long row, int *foundCol, long *foundRow) {
+    while (m_mode != UG_SELECT_OFF) {
+        if (col <= m_enumBox.right && FindInRow(row, static_cast<int>(col), m_enumBox.right, foundCol)) {
+            m_enumCol = *foundCol;
             m_enumRow = *foundRow = row;
             return GRID_SUCCESS;
         }
+        // A row without any speaks for all that are like it; one that was walked to its end does not.
+        const long last = col == m_enumBox.left ? LastLike(row) : row;
+        if (last >= m_enumBox.bottom)
+            break;
+        row = last + 1;
+        col = m_enumBox.left;
     }
     m_enumerating = false;
     return GRID_ERROR;

@@ -13,7 +13,7 @@ enum UGSelectMode {
 
 class ORVANE_API CUGSelectionList {
 public:
-    struct Block {
+    struct ORVANE_API Block {
         int startCol, endCol; // as given: where the block began and where it was last extended to
         long startRow, endRow;
         int left, right; // the same, normalised
@@ -21,6 +21,7 @@ public:
         bool selected;
 
         bool Contains(int col, long row, UGSelectMode mode) const;
+        bool operator==(const Block &other) const = default;
     };
 
     void SetMode(UGSelectMode mode) { m_mode = mode; }
@@ -31,7 +32,7 @@ public:
     bool IsEmpty() const { return m_blocks.empty(); }
     const std::vector<Block> &GetBlocks() const { return m_blocks; }
 
-    // A one-cell block becomes the open one. Nothing while the mode is off.
+    // A one-cell block becomes the open one, which it stays where it is that already. Nothing while the mode is off.
     void StartBlock(int col, long row);
     // Moves the end of the open block. GRID_ERROR with none open.
     int ExtendBlock(int col, long row);
@@ -52,8 +53,10 @@ public:
 
 private:
     bool BoxOfBlocks(Block *box) const;
-    bool AnySelected(int left, long top, int right, long bottom) const;
-    int EnumFrom(int col, long row, int *foundCol, long *foundRow);
+    bool FindInRow(long row, int from, int to, int *found) const;
+    bool FindInRowBack(long row, int from, int to, int *found) const;
+    long LastLike(long row) const;
+    int EnumFrom(long long col, long row, int *foundCol, long *foundRow);
 
     std::vector<Block> m_blocks;
     UGSelectMode m_mode = UG_SELECT_OFF;

@@ -20,7 +20,7 @@ int CUGSpinButtonType::OnLClicked(int col, long row, int updn, RECT *rect, POINT
         return UGCT_HANDLED;
     }
     const RECT button = ButtonRect(*rect);
-    if (!::PtInRect(&button, *point)) {
+    if (!::PtInRect(&button, *point) || IsReadOnly(col, row)) {
         ForgetCell();
         return UGCT_NOT_HANDLED;
     }

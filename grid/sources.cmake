@@ -15,8 +15,11 @@ set(GRID_MODEL_SOURCES
     UGTabLayout.cpp
 )
 
+set(GRID_NATIVE_SOURCES MaskLetters_posix.cpp)
+
 # The windows and what draws.
 set(GRID_WINDOW_SOURCES
+    MaskLetters_win.cpp
     UGButtonType.cpp
     UGCheckBoxType.cpp
     UGDropListType.cpp
@@ -52,4 +55,5 @@ set(GRID_WINDOW_SOURCES
     UGTopHdg.cpp
 )
 list(TRANSFORM GRID_MODEL_SOURCES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
+list(TRANSFORM GRID_NATIVE_SOURCES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
 list(TRANSFORM GRID_WINDOW_SOURCES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)

@@ -27,9 +27,15 @@ unsigned long long GetLittleEndian(const BYTE *bytes, int count) {
 
 } // namespace
 
-CArchive::CArchive(CFile *file, UINT mode, UINT bufferBytes)
-    : m_file(file), m_mode(mode), m_fileName(file->GetFilePath()),
-      m_buffer(std::max<UINT>(bufferBytes, 1)) {}
+CArchive::CArchive(CFile *file, UINT mode, UINT bufferBytes, void *buffer)
+    : m_file(file), m_mode(mode), m_fileName(file->GetFilePath()), m_buffer(static_cast<BYTE *>(buffer)),
+      m_size(bufferBytes) {
+    if (m_buffer != nullptr && m_size > 0)
+        return;
+    m_size = std::max<UINT>(m_size, 1);
+    m_own.resize(m_size);
+    m_buffer = m_own.data();
+}
 
 CArchive::~CArchive() {
     try {
@@ -49,13 +55,13 @@ void CArchive::Flush() {
         return;
     const size_t waiting = m_used;
     m_used = 0; // a fault is told once, not again from the destructor
-    m_file->Write(m_buffer.data(), static_cast<UINT>(waiting));
+    m_file->Write(m_buffer, static_cast<UINT>(waiting));
 }
 
 bool CArchive::FillBuffer() {
     m_used = 0;
     m_have = 0;
-    const UINT got = m_file->Read(m_buffer.data(), static_cast<UINT>(m_buffer.size()));
+    const UINT got = m_file->Read(m_buffer, m_size);
     m_have = got;
     if (m_behind >= 0)
         m_behind = std::max<LONGLONG>(m_behind - got, 0);
@@ -69,7 +75,7 @@ UINT CArchive::Read(void *buffer, UINT bytes) {
     UINT got = 0;
     while (got < bytes && (m_used < m_have || FillBuffer())) {
         const auto piece = static_cast<UINT>(std::min<size_t>(bytes - got, m_have - m_used));
-        std::memcpy(out + got, m_buffer.data() + m_used, piece);
+        std::memcpy(out + got, m_buffer + m_used, piece);
         m_used += piece;
         got += piece;
     }
@@ -86,12 +92,12 @@ void CArchive::Write(const void *buffer, UINT bytes) {
         AfxThrowArchiveException(CArchiveException::readOnly, m_fileName);
     auto *in = static_cast<const BYTE *>(buffer);
     while (bytes > 0) {
-        const auto piece = static_cast<UINT>(std::min<size_t>(bytes, m_buffer.size() - m_used));
-        std::memcpy(m_buffer.data() + m_used, in, piece);
+        const auto piece = static_cast<UINT>(std::min<size_t>(bytes, m_size - m_used));
+        std::memcpy(m_buffer + m_used, in, piece);
         m_used += piece;
         in += piece;
         bytes -= piece;
-        if (m_used == m_buffer.size())
+        if (m_used == m_size)
             Flush();
     }
 }
@@ -224,7 +230,7 @@ LPCSTR CArchive::ReadText(unsigned *length) {
     *length = static_cast<unsigned>(characters);
     if (!wide && bytes <= m_have - m_used) {
         m_used += bytes;
-        return reinterpret_cast<LPCSTR>(m_buffer.data() + (m_used - bytes));
+        return reinterpret_cast<LPCSTR>(m_buffer + (m_used - bytes));
     }
     m_text.resize(bytes);
     ReadExactly(m_text.data(), static_cast<UINT>(bytes));

@@ -19,8 +19,8 @@ class ORVANE_API CArchive {
 public:
     enum Mode { store = 0, load = 1 };
 
-    // The file is borrowed and stays open.
-    CArchive(CFile *file, UINT mode, UINT bufferBytes = kArchiveBufferBytes);
+    // The file is borrowed and stays open. So is the buffer, of that many bytes; null for one of the archive's own.
+    CArchive(CFile *file, UINT mode, UINT bufferBytes = kArchiveBufferBytes, void *buffer = nullptr);
     ~CArchive();
     CArchive(const CArchive &) = delete;
     CArchive &operator=(const CArchive &) = delete;
@@ -66,7 +66,9 @@ private:
     CFile *m_file;
     UINT m_mode;
     CString m_fileName; // goes into every exception
-    std::vector<BYTE> m_buffer;
+    std::vector<BYTE> m_own; // the buffer, unless it is the caller's
+    BYTE *m_buffer;
+    UINT m_size; // of the buffer, bytes
     size_t m_used = 0; // loading: bytes consumed; storing: bytes waiting
     size_t m_have = 0; // loading: bytes in the buffer
     LONGLONG m_behind = -1;     // loading: bytes of the file behind the buffer; -1 while not asked for

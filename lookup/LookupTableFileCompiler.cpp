@@ -76,10 +76,10 @@ CString CLookupTableFileCompiler::GetTablePath() const {
 }
 
 void CLookupTableFileCompiler::GetLookupFileName(CString &name) const {
-    name = GetTablePath();
-    const int separator = name.ReverseFind('\\');
+    const CString path = GetTablePath();
+    const int separator = path.ReverseFind('\\');
     if (separator > 0)
-        name = name.Mid(separator + 1);
+        name = path.Mid(separator + 1);
 }
 
 // What cannot be read counts as no text: the checks come later.

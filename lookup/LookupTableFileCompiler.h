@@ -26,7 +26,7 @@ public:
     // said no or stopped it or has been told already. The cell to be shown is -1 where there is none. Running out of
     // memory is told to the user; from a table of independent levels the CMemoryException is then thrown on.
     bool Compile(int &errorCol, long &errorRow, CString &errorText);
-    // The table's file without its folder.
+    // The table's file without its folder. Without a folder in the path, `name` is left as it is.
     void GetLookupFileName(CString &name) const;
 
     // Reads a row of an outline. `column` comes in as that of the row before and goes out as the row's, -1 for a blank

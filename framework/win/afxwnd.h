@@ -356,7 +356,7 @@ protected:
     void OnNcPaint() { Default(); }
     void OnClose() { Default(); }
     void OnCancelMode() { Default(); }
-    void OnSysColorChange() { Default(); }
+    void OnSysColorChange();
     void OnTimeChange() { Default(); }
     void OnFontChange() { Default(); }
     void OnMouseLeave() { Default(); }

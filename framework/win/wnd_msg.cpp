@@ -18,6 +18,7 @@ ON_WM_HSCROLL()
 ON_WM_VSCROLL()
 ON_WM_PARENTNOTIFY()
 ON_WM_SETCURSOR()
+ON_WM_SYSCOLORCHANGE()
 ON_MESSAGE(WM_DISPLAYCHANGE, &CWnd::OnDisplayChange)
 END_MESSAGE_MAP()
 
@@ -232,6 +233,13 @@ LRESULT CWnd::OnDisplayChange(WPARAM, LPARAM) {
         SendMessageToDescendants(message->message, message->wParam, message->lParam, TRUE, TRUE);
     }
     return Default();
+}
+
+void CWnd::OnSysColorChange() {
+    // Only top-level windows are told by the system.
+    if (!(GetStyle() & WS_CHILD))
+        SendMessageToDescendants(WM_SYSCOLORCHANGE, 0, 0, TRUE, TRUE);
+    Default();
 }
 
 BOOL CWnd::PreTranslateMessage(MSG *) {

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 namespace {
 
 template <class Write> std::string Written(Write write) {
@@ -13,6 +15,46 @@ template <class Write> std::string Written(Write write) {
     write(archive);
     archive.Close();
     return file.m_bytes;
+}
+
+TEST(ArchiveTest, WhatWaitsIsWrittenByAFlush) {
+    MemoryFile file;
+    CArchive archive(&file, CArchive::store);
+    EXPECT_TRUE(archive.IsStoring());
+    EXPECT_FALSE(archive.IsLoading());
+    EXPECT_EQ(&file, archive.GetFile());
+    archive << BYTE{0x41};
+    EXPECT_EQ("", file.m_bytes);
+    archive.Flush();
+    EXPECT_EQ("A", file.m_bytes);
+    archive.Flush();
+    EXPECT_EQ("A", file.m_bytes);
+    CArchive reading(&file, CArchive::load);
+    EXPECT_TRUE(reading.IsLoading());
+    EXPECT_FALSE(reading.IsStoring());
+}
+
+TEST(ArchiveTest, TheBufferMayBeTheCallers) {
+    BYTE buffer[4] = {};
+    MemoryFile file;
+    {
+        CArchive archive(&file, CArchive::store, sizeof buffer, buffer);
+        archive << WORD{0x4241};
+        EXPECT_EQ(0, std::memcmp(buffer, "AB", 2)); // waits there
+        EXPECT_EQ("", file.m_bytes);
+        archive.Write("CDE", 3);
+        EXPECT_EQ("ABCD", file.m_bytes);
+    }
+    EXPECT_EQ("ABCDE", file.m_bytes);
+    MemoryFile again(file.m_bytes);
+    CArchive archive(&again, CArchive::load, sizeof buffer, buffer);
+    WORD value = 0;
+    archive >> value;
+    EXPECT_EQ(0x4241, value);
+    EXPECT_EQ(0, std::memcmp(buffer, "ABCD", 4));
+    char rest[4] = "";
+    EXPECT_EQ(3u, archive.Read(rest, 4));
+    EXPECT_STREQ("CDE", rest);
 }
 
 std::string ReadString(const std::string &bytes) {

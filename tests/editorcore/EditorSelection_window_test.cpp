@@ -266,4 +266,16 @@ TEST_F(EditorSelectionTest, AMoveWithoutTheButtonEndsTheDrag) {
     EXPECT_EQ(nullptr, ::GetCapture());
 }
 
+TEST_F(EditorSelectionTest, AHeadingThatLostTheMouseToAQuestionDoesNotGetItBack) {
+    TestEditor &editor = Open(3, 3, kEditVerify);
+    editor.StartEdit();
+    TypeText(editor.Edit(), "typed");
+    TestApp().Answer({IDYES});
+    auto button = std::make_unique<HeldKeys>(std::initializer_list<int>{VK_LBUTTON});
+    TestApp().m_whileUp = [&](const std::string &) { button.reset(); }; // the question is answered with the mouse
+    PressLeft(editor.TopHeading(), 150, 5);
+    EXPECT_EQ(nullptr, ::GetCapture());
+    EXPECT_EQ("typed", m_source->Text(0, 0));
+}
+
 } // namespace

@@ -88,6 +88,38 @@ TEST_F(Frame, CommandsGoToTheViewThenTheFrame) {
     EXPECT_EQ(frame->GetActiveView(), frame->view);
 }
 
+namespace {
+
+class ColourWatcher : public CWnd {
+public:
+    int changes = 0;
+
+protected:
+    afx_msg void OnSysColorChange() {
+        changes++;
+        CWnd::OnSysColorChange();
+    }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(ColourWatcher, CWnd)
+ON_WM_SYSCOLORCHANGE()
+END_MESSAGE_MAP()
+
+} // namespace
+
+TEST_F(Frame, AChangeOfTheSystemsColoursReachesEveryDescendantOnce) {
+    ColourWatcher child, grandchild;
+    ASSERT_TRUE(child.Create(nullptr, nullptr, WS_CHILD, CRect(0, 0, 9, 9), frame->view, 1));
+    ASSERT_TRUE(grandchild.Create(nullptr, nullptr, WS_CHILD, CRect(0, 0, 9, 9), &child, 1));
+    frame->SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_EQ(child.changes, 1);
+    EXPECT_EQ(grandchild.changes, 1);
+    child.SendMessage(WM_SYSCOLORCHANGE); // a child passes nothing on: the frame reaches all
+    EXPECT_EQ(child.changes, 2);
+    EXPECT_EQ(grandchild.changes, 1);
+    child.DestroyWindow();
+}
+
 TEST_F(Frame, OpeningAMenuUpdatesItsItems) {
     CMenu *menu = frame->GetMenu()->GetSubMenu(0);
     frame->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu->m_hMenu), MAKELPARAM(0, FALSE));

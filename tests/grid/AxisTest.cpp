@@ -61,6 +61,12 @@ TEST(AxisTest, BringingIntoViewScrollsNoFurtherThanNeeded) {
     EXPECT_EQ(7, axis.LeadingForCurrent(1));
 }
 
+TEST(AxisTest, WhereAllFitTheFirstOneLeads) {
+    CUGAxis axis = Individual({10, 20, 30}, 100);
+    axis.m_current = 2;
+    EXPECT_EQ(0, axis.LeadingForCurrent(1));
+}
+
 TEST(AxisTest, AViewScrolledAwayOnPurposeStays) {
     CUGAxis axis = Uniform(100, 20, 100);
     axis.m_leading = 9;
@@ -133,7 +139,7 @@ TEST(AxisTest, ClampHoldsTheCursorsInRange) {
     EXPECT_EQ(0, axis.m_current);
     axis.m_count = 0;
     axis.m_last = 4;
-    axis.ClampToCount();
+    EXPECT_FALSE(axis.ClampToCount()); // there is none that it could have moved to
     EXPECT_EQ(0, axis.m_leading + axis.m_current + axis.m_last + axis.m_lastLeading);
 }
 

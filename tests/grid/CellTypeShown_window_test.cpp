@@ -134,13 +134,23 @@ TEST_F(CellTypesTest, AChangeOfTheSystemsColoursReachesTheTypes) {
     PumpAll();
     const COLORREF green = RGB(0, 200, 0), rose = RGB(250, 200, 200);
     SystemColour face(COLOR_BTNFACE, green), window(COLOR_WINDOW, rose);
-    m_grid.SendMessage(WM_SYSCOLORCHANGE, 0, 0);
-    PumpAll();
+    PumpAll(); // the system has told the host of it, and had everything repainted
     CDC *dc = m_grid.GetGridDC();
     const CRect button = ButtonOf(0, 0);
     EXPECT_EQ(green, ::GetPixel(dc->GetSafeHdc(), button.CenterPoint().x, 5));
     EXPECT_EQ(rose, ::GetPixel(dc->GetSafeHdc(), 20, 10));
     m_grid.ReleaseGridDC(dc);
+}
+
+TEST_F(CellTypesTest, AChangeOfTheSystemsColoursRepaintsAllByItself) {
+    PumpAll();
+    m_grid.SendMessage(WM_SYSCOLORCHANGE, 0, 0); // while no colour changed, so that the system repaints nothing
+    for (HWND window : {m_grid.Cells(), m_grid.TopHeading(), m_grid.SideHeading(), m_grid.Corner()}) {
+        CRect dirty, client;
+        ::GetUpdateRect(window, &dirty, FALSE);
+        ::GetClientRect(window, &client);
+        EXPECT_EQ(client, dirty);
+    }
 }
 
 TEST_F(CellTypesTest, ButtonsBoxesAndHeadingsFollowTheSystemsColours) {
@@ -161,7 +171,6 @@ TEST_F(CellTypesTest, ButtonsBoxesAndHeadingsFollowTheSystemsColours) {
         return found;
     };
     const auto seen = [&] {
-        m_grid.SendMessage(WM_SYSCOLORCHANGE, 0, 0);
         PumpAll();
         std::string all;
         for (int i = 0; i < 3; ++i)

@@ -125,6 +125,36 @@ TEST_F(CtrlEditTest, TabGoesRightAndWithShiftLeft) {
     EXPECT_EQ("0.1", EditText());
 }
 
+TEST_F(CtrlEditTest, TabGoesPastColumnsOfNoWidth) {
+    Fill(5, 5);
+    m_grid.SetColWidth(1, 0);
+    m_grid.SetColWidth(2, 0);
+    m_grid.SetColWidth(4, 0);
+    m_grid.StartEdit();
+    Key(VK_TAB);
+    EXPECT_EQ("3.0", EditText());
+    Key(VK_TAB);
+    EXPECT_EQ("0.1", EditText());
+    HeldKeys shift({VK_SHIFT});
+    Key(VK_TAB);
+    EXPECT_EQ("3.0", EditText());
+    Key(VK_TAB);
+    EXPECT_EQ("0.0", EditText());
+}
+
+TEST_F(CtrlEditTest, NoEditOpensOnAColumnOfNoWidth) {
+    Fill(3, 5);
+    m_grid.GotoCell(1, 2);
+    m_grid.SetColWidth(1, 0);
+    m_grid.Take();
+    EXPECT_EQ(GRID_ERROR, m_grid.StartEdit());
+    EXPECT_EQ("", m_grid.Take());
+    EXPECT_EQ("closed", EditText());
+    for (int col : {0, 2})
+        m_grid.SetColWidth(col, 0);
+    EXPECT_EQ(GRID_ERROR, m_grid.EditContinue(1, 0)); // nowhere to go
+}
+
 TEST_F(CtrlEditTest, TabInTheLastColumnGoesToTheFirstOfTheNextRow) {
     Fill(3, 5);
     m_grid.GotoCell(2, 1);
@@ -243,6 +273,105 @@ TEST_F(CtrlEditTest, AVetoOfTheFinishAtFocusLossStillClosesTheBox) {
     EXPECT_EQ("0.0", m_source->Text(0, 0));
 }
 
+// As a box of the host does: it takes the focus, and gives it to the window below it when it goes.
+TEST_F(CtrlEditTest, AFinishThatShowsABoxWritesWhatWasTyped) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    Type("x");
+    m_grid.m_onEditFinish = [&] { m_host.SetFocus(); };
+    m_grid.Take();
+    ::SendMessageA(m_grid.Edit(), WM_KEYDOWN, VK_RETURN, 1);
+    m_grid.m_onEditFinish = nullptr;
+    EXPECT_EQ("EditVerify(-1,-1,13) EditFinish(0,0) SetCell(0,0) EditContinue(0,0,1,0) CanMove(0,0,1,0) "
+              "ColChange(0,1) CellChange(0,1,0,0) EditStart(1,0)",
+              m_grid.Take());
+    EXPECT_EQ("x", m_source->Text(0, 0));
+    EXPECT_EQ("1.0", EditText());
+    EXPECT_EQ(m_grid.Edit(), ::GetFocus());
+}
+
+TEST_F(CtrlEditTest, AFinishThatShowsABoxAndRefusesGivesTheFocusBackToTheText) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    Type("x");
+    m_grid.m_vetoes = {"EditFinish"};
+    m_grid.m_onEditFinish = [&] { m_host.SetFocus(); };
+    Key(VK_RETURN);
+    EXPECT_EQ("x", EditText());
+    EXPECT_EQ(m_grid.Edit(), ::GetFocus());
+    EXPECT_EQ("0.0", m_source->Text(0, 0));
+    m_grid.m_vetoes.clear();
+    Key(VK_RETURN);
+    m_grid.m_onEditFinish = nullptr;
+    EXPECT_EQ("x", m_source->Text(0, 0));
+}
+
+TEST_F(CtrlEditTest, ABoxThatGoesWhileItIsAskedWritesNothing) {
+    Fill(3, 5);
+    m_grid.GotoCell(1, 4);
+    m_grid.StartEdit();
+    Type("x");
+    m_grid.m_onEditFinish = [&] { m_grid.SetNumberRows(3); };
+    m_grid.Take();
+    Key(VK_RETURN);
+    m_grid.m_onEditFinish = nullptr;
+    EXPECT_EQ("closed", EditText());
+    EXPECT_EQ(std::string::npos, m_grid.Take().find("SetCell"));
+    EXPECT_EQ("1.4", m_source->Text(1, 4));
+}
+
+TEST_F(CtrlEditTest, AnotherEditThatTheFinishStartsStaysAndNothingIsWritten) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    Type("x");
+    m_grid.m_onEditFinish = [&] {
+        m_grid.m_onEditFinish = nullptr;
+        m_grid.GotoCell(2, 3);
+        m_grid.StartEdit();
+    };
+    Key(VK_RETURN);
+    EXPECT_EQ("2.3", EditText());
+    EXPECT_EQ("0.0", m_source->Text(0, 0));
+    EXPECT_EQ("2.3", m_source->Text(2, 3));
+    Type("y");
+    Key(VK_RETURN);
+    EXPECT_EQ("y", m_source->Text(2, 3));
+}
+
+TEST_F(CtrlEditTest, AnEditOfALostFocusThatShowsABoxIsAskedOnce) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    Type("x");
+    m_grid.Take();
+    m_grid.m_onEditFinish = [&] {
+        ::SetFocus(m_grid.Edit()); // the box gives the focus to where it was
+        m_host.SetFocus();
+    };
+    m_host.SetFocus();
+    m_grid.m_onEditFinish = nullptr;
+    EXPECT_EQ("EditFinish(0,0) SetCell(0,0)", m_grid.Take());
+    EXPECT_EQ("x", m_source->Text(0, 0));
+    EXPECT_EQ("closed", EditText());
+}
+
+TEST_F(CtrlEditTest, ARefusedWriteIsToldAndTheCellShowsWhatTheSourceHas) {
+    Fill(3, 5);
+    m_source->m_results = {{"SetCell", 1}};
+    m_grid.StartEdit();
+    Type("x");
+    int told = -1;
+    m_grid.m_onEditContinue = [&](int *, long *) { told = m_grid.GetEditResult(); };
+    Key(VK_RETURN);
+    EXPECT_EQ(GRID_ERROR, told);
+    EXPECT_EQ("0.0", m_grid.Text(0, 0));
+    m_source->m_results.clear();
+    Type("y");
+    Key(VK_RETURN);
+    m_grid.m_onEditContinue = nullptr;
+    EXPECT_EQ(GRID_SUCCESS, told);
+    EXPECT_EQ("y", m_grid.Text(1, 0));
+}
+
 TEST_F(CtrlEditTest, ASwallowedKeyNeverReachesTheText) {
     Fill(3, 5);
     m_grid.StartEdit();
@@ -312,6 +441,48 @@ TEST_F(CtrlEditTest, TheMaskOfTheCellHoldsWhatIsTyped) {
     EXPECT_EQ("12/34", EditText());
     Key(VK_TAB);
     EXPECT_EQ("12/34", m_grid.Text(0, 0));
+}
+
+TEST_F(CtrlEditTest, LiteralsInARowArePassedByOneCharacter) {
+    m_grid.SetNumberCols(2);
+    m_grid.SetNumberRows(2);
+    CUGCell cell;
+    cell.SetMask("(000) 000-0000");
+    m_grid.SetCell(0, 0, &cell);
+    m_grid.StartEdit();
+    Type("123x4");
+    EXPECT_EQ("(123) 4", EditText());
+    EXPECT_EQ("7..7", SelectionInEdit());
+    Type("567890");
+    EXPECT_EQ("(123) 456-7890", EditText());
+    Type("1");
+    EXPECT_EQ("(123) 456-7890", EditText());
+    ::SendMessageA(m_grid.Edit(), EM_SETSEL, 4, 11);
+    Type("9");
+    EXPECT_EQ("(123) 989-0", EditText());
+    EXPECT_EQ("7..7", SelectionInEdit());
+}
+
+TEST_F(CtrlEditTest, LettersOfTheMaskAreThoseOfTheCodePage) {
+    m_grid.SetNumberCols(2);
+    m_grid.SetNumberRows(2);
+    CUGCell cell;
+    cell.SetMask("LA?a");
+    m_grid.SetCell(0, 0, &cell);
+    m_grid.StartEdit();
+    Type("\xD7\xC4\xD7\xE9\xF7\xDF\xF1"); // multiplication and division signs are no letters
+    EXPECT_EQ("\xC4\xE9\xDF\xF1", EditText());
+}
+
+TEST_F(CtrlEditTest, ACharacterThatDoesNotFitPutsNoLiteralIn) {
+    m_grid.SetNumberCols(2);
+    m_grid.SetNumberRows(2);
+    CUGCell cell;
+    cell.SetMask("00/00");
+    m_grid.SetCell(0, 0, &cell);
+    m_grid.StartEdit();
+    Type("12x");
+    EXPECT_EQ("12", EditText());
 }
 
 TEST_F(CtrlEditTest, AnotherStartEndsTheEditThatIsOpen) {

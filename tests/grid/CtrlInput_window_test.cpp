@@ -186,6 +186,29 @@ TEST_F(CtrlInputTest, TheWheelScrollsByTheLinesThatTheSystemSays) {
     EXPECT_EQ(0, m_grid.GetCurrentRow());
 }
 
+TEST_F(CtrlInputTest, ThePopupMenuIsMadeOnceHoweverOftenTheWindowIs) {
+    const HMENU menu = m_grid.GetPopupMenu()->GetSafeHmenu();
+    m_grid.GetPopupMenu()->AppendMenu(MF_STRING, 1000, "first");
+    m_grid.DestroyWindow();
+    m_grid.CreateGrid(WS_VISIBLE, CRect(0, 0, 500, 300), &m_host, 100);
+    EXPECT_EQ(menu, m_grid.GetPopupMenu()->GetSafeHmenu());
+    EXPECT_EQ(1u, m_grid.GetPopupMenu()->GetMenuItemCount());
+}
+
+TEST_F(CtrlInputTest, TheWheelScrollsTheCellsWhereverItIsTurned) {
+    Fill(20, 100);
+    UINT lines = 0;
+    ::SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    long expected = 0;
+    for (HWND window : {m_grid.TopHeading(), m_grid.SideHeading(), m_grid.Corner(), m_grid.VBar(), m_grid.HBar(),
+                        m_grid.m_hWnd, m_grid.Cells()}) {
+        ::SendMessageA(window, WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+        expected += static_cast<long>(lines);
+        EXPECT_EQ(expected, m_grid.GetTopRow());
+        expected = m_grid.GetTopRow();
+    }
+}
+
 TEST_F(CtrlInputTest, FocusOnTheControlGoesToTheCells) {
     Fill(5, 10);
     m_host.SetFocus();
@@ -197,12 +220,25 @@ TEST_F(CtrlInputTest, DraggingBeyondTheBottomScrollsUntilTheButtonIsReleased) {
     Fill(5, 100);
     m_grid.EnableMultiSelect(1);
     PressCell(1, 5);
-    // What ends the scrolling waits in the queue and is handled there.
-    ::PostMessageA(m_grid.Cells(), WM_USER, 0, 0);
-    ::PostMessageA(m_grid.Cells(), WM_LBUTTONUP, 0, MAKELPARAM(150, 250));
+    int steps = 0;
+    m_grid.m_onCellChanged = [&] {
+        if (++steps == 20)
+            ::PostMessageA(m_grid.Cells(), WM_LBUTTONUP, 0, MAKELPARAM(150, m_grid.m_GI.m_rows.m_extent - 1));
+    };
+    // Where nothing scrolls the release comes all the same, some time later.
+    constexpr UINT kPatienceMs = 5000;
+    const auto release = [](HWND, UINT, UINT_PTR, DWORD) {
+        ::PostMessageA(::GetCapture(), WM_LBUTTONUP, 0, MAKELPARAM(150, 10));
+    };
+    const UINT_PTR timer = ::SetTimer(nullptr, 0, kPatienceMs, release);
     MoveMouse(m_grid.Cells(), 150, m_grid.m_GI.m_rows.m_extent + 30, MK_LBUTTON);
+    ::KillTimer(nullptr, timer);
+    m_grid.m_onCellChanged = nullptr;
+    EXPECT_EQ(25, m_grid.GetCurrentRow());
+    EXPECT_GT(m_grid.GetTopRow(), 0);
     PumpUntil("the release of the mouse", [] { return ::GetCapture() == nullptr; });
     EXPECT_EQ(1, m_grid.GetCurrentCol());
+    EXPECT_TRUE(m_grid.IsSelected(1, 20));
 }
 
 } // namespace

@@ -227,6 +227,80 @@ TEST_F(CtrlMoveTest, AJoinedCellIsEnteredAtItsOrigin) {
     EXPECT_EQ(0, m_grid.GetCurrentCol());
 }
 
+class CtrlMoveJoinTest : public CtrlMoveTest {
+protected:
+    // Five columns and ten rows with one block.
+    void Block(int left, long top, int right, long bottom) {
+        m_grid.SetNumberCols(5);
+        m_grid.SetNumberRows(10);
+        for (long row = top; row <= bottom; ++row) {
+            for (int col = left; col <= right; ++col) {
+                CUGCell cell;
+                cell.SetJoin(row == top && col == left, left, top);
+                m_grid.SetCell(col, row, &cell);
+            }
+        }
+    }
+    std::string At() {
+        return std::to_string(m_grid.GetCurrentCol()) + "." + std::to_string(m_grid.GetCurrentRow());
+    }
+};
+
+TEST_F(CtrlMoveJoinTest, ABlockAtTheEndOfTheTableIsNotLeftDownwardsAndLeftUpwards) {
+    Block(1, 7, 2, 9);
+    m_grid.GotoCell(1, 7);
+    m_grid.MoveCurrentRow(UG_MOVE_FORWARD);
+    EXPECT_EQ("1.7", At());
+    m_grid.MoveCurrentRow(UG_MOVE_BACK);
+    EXPECT_EQ("1.6", At());
+    m_grid.MoveCurrentRow(UG_MOVE_LAST);
+    EXPECT_EQ("1.7", At());
+    m_grid.MoveCurrentRow(UG_MOVE_LAST);
+    EXPECT_EQ("1.7", At());
+    m_grid.MoveCurrentRow(UG_MOVE_BACK);
+    EXPECT_EQ("1.6", At());
+}
+
+TEST_F(CtrlMoveJoinTest, ABlockAtTheLastColumnIsNotLeftToTheRight) {
+    Block(3, 2, 4, 3);
+    m_grid.GotoCell(3, 2);
+    m_grid.MoveCurrentCol(UG_MOVE_FORWARD);
+    EXPECT_EQ("3.2", At());
+    m_grid.MoveCurrentCol(UG_MOVE_BACK);
+    EXPECT_EQ("2.2", At());
+}
+
+TEST_F(CtrlMoveJoinTest, AStepIntoABlockGoesToItsOrigin) {
+    Block(1, 3, 2, 5);
+    m_grid.GotoCell(2, 2);
+    m_grid.MoveCurrentRow(UG_MOVE_FORWARD);
+    EXPECT_EQ("1.3", At());
+    m_grid.GotoCell(2, 6);
+    m_grid.MoveCurrentRow(UG_MOVE_BACK);
+    EXPECT_EQ("1.3", At());
+    m_grid.GotoCell(3, 4);
+    m_grid.MoveCurrentCol(UG_MOVE_BACK);
+    EXPECT_EQ("1.3", At());
+    m_grid.GotoCell(0, 4);
+    m_grid.MoveCurrentCol(UG_MOVE_FORWARD);
+    EXPECT_EQ("1.3", At());
+}
+
+TEST_F(CtrlMoveTest, AnEmptyTableIsAskedForRowsByAMove) {
+    RecordingSource &source = Fill(3, 0);
+    m_grid.m_log = &m_log;
+    m_grid.MoveCurrentRow(UG_MOVE_FORWARD);
+    EXPECT_EQ("src.RequestMoreRows(0,1) HitBottom(0,1,0)", m_log.Take());
+    EXPECT_EQ(GRID_ERROR, m_grid.GotoCell(1, 0));
+    EXPECT_EQ("src.RequestMoreRows(0,1) HitBottom(0,1,0)", m_log.Take());
+    source.m_growsBy = 1;
+    m_grid.m_onHitBottom = [&] { m_grid.SetNumberRows(1); };
+    EXPECT_EQ(GRID_SUCCESS, m_grid.GotoCell(1, 0));
+    EXPECT_EQ("cur=(1,0) view=(0,0) size=3x1", m_grid.State());
+    m_grid.m_onHitBottom = nullptr;
+    m_grid.m_log = nullptr;
+}
+
 TEST_F(CtrlMoveTest, AnEmptyGridMovesNowhere) {
     EXPECT_EQ(GRID_ERROR, m_grid.GotoCell(0, 0));
     EXPECT_EQ(GRID_ERROR, m_grid.GotoRow(0));

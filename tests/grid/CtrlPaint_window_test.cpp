@@ -1,6 +1,8 @@
 // What painting reads, and what it leaves behind.
 #include "GridWindowTest.h"
 
+#include <set>
+
 #include <algorithm>
 #include <functional>
 #include <utility>
@@ -320,6 +322,121 @@ TEST_F(RedrawTest, AWrittenEditRepaintsItsWholeCellAndTheLockedColumn) {
     ::SetWindowTextA(m_grid.Edit(), "new");
     const std::string height = std::to_string(m_grid.m_GI.m_rows.m_extent);
     EXPECT_EQ("cells 0,40..100,60 side 0,0..50," + height + " ", Dirty([&] { m_host.SetFocus(); }));
+}
+
+// A table that is one block of cells, and counts what is read of it.
+class BlockSource : public CUGDataSource {
+public:
+    int GetCell(int, long, CUGCell *cell) override {
+        ++m_reads;
+        cell->SetJoin(false, 0, 0);
+        return GRID_SUCCESS;
+    }
+    long m_reads = 0;
+};
+
+class CtrlPaintJoinTest : public GridWindowTest {
+protected:
+    long ReadsOfARepaint(int cols, int colWidth, long rows, int rowHeight) {
+        m_grid.SetDefaultDataSource(m_grid.AddDataSource(&m_block));
+        m_grid.SetSH_Width(0);
+        m_grid.SetTH_Height(0);
+        m_grid.SetNumberCols(cols);
+        m_grid.SetUniformRowHeight(1);
+        m_grid.SetDefaultRowHeight(rowHeight);
+        for (int col = 0; col < cols; ++col)
+            m_grid.SetColWidth(col, colWidth);
+        m_grid.SetNumberRows(rows);
+        m_grid.SetTopRow(rows / 2);
+        PumpAll();
+        m_block.m_reads = 0;
+        m_grid.RedrawAll();
+        PumpAll();
+        return m_block.m_reads;
+    }
+    ~CtrlPaintJoinTest() override { m_grid.DestroyWindow(); }
+
+    BlockSource m_block;
+};
+
+TEST_F(CtrlPaintJoinTest, EachVisibleCellIsReadOnceAndTheBlocksSidesTwice) {
+    // 96 by 30 cells are in view, and the frame of the current cell asks for the block as well.
+    const long reads = ReadsOfARepaint(96, 5, 30, 10);
+    EXPECT_GE(reads, 96 * 30);
+    EXPECT_LE(reads, 96 * 30 + 3 * (96 + 30));
+}
+
+TEST_F(CtrlPaintJoinTest, ABlockThatReachesFarOutOfViewCostsAFewReadsMore) {
+    const long reads = ReadsOfARepaint(96, 5, 2000000, 10);
+    EXPECT_LE(reads, 96 * 31 + 3 * (96 + 31) + 200);
+}
+
+// Leaves everything of the device context changed that it can, and notes how it found it.
+class UntidyType : public CUGCellType {
+public:
+    using CUGCellType::CUGCellType;
+    void OnDraw(CDC *dc, RECT *, CUGCell *, int, int) override {
+        HDC hdc = dc->GetSafeHdc();
+        m_found.insert(std::to_string(::GetTextAlign(hdc)) + " " + std::to_string(::GetBkMode(hdc)) + " " +
+                       std::to_string(::GetROP2(hdc)) + " " + std::to_string(::GetTextColor(hdc)) + " " +
+                       std::to_string(::GetBkColor(hdc)) + " " +
+                       (::GetCurrentObject(hdc, OBJ_PEN) == ::GetStockObject(BLACK_PEN) ? "pen " : "- ") +
+                       (::GetCurrentObject(hdc, OBJ_BRUSH) == ::GetStockObject(WHITE_BRUSH) ? "brush " : "- ") +
+                       (::GetCurrentObject(hdc, OBJ_FONT) == m_font ? "font" : "-"));
+        ::SetTextAlign(hdc, TA_RIGHT | TA_BOTTOM);
+        ::SetBkMode(hdc, TRANSPARENT);
+        ::SetROP2(hdc, R2_NOT);
+        ::SetTextColor(hdc, RGB(1, 2, 3));
+        ::SetBkColor(hdc, RGB(4, 5, 6));
+        ::SelectObject(hdc, ::GetStockObject(WHITE_PEN));
+        ::SelectObject(hdc, ::GetStockObject(GRAY_BRUSH));
+        ::SelectObject(hdc, ::GetStockObject(SYSTEM_FIXED_FONT));
+        ::IntersectClipRect(hdc, 0, 0, 0, 0);
+    }
+    std::set<std::string> m_found;
+    HGDIOBJ m_font = nullptr;
+};
+
+TEST_F(GridWindowTest, EachTypeFindsTheDeviceContextAsNew) {
+    Fill(4, 10);
+    CFont font;
+    font.CreateFont(14, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "Arial");
+    m_grid.SetDefaultFont(&font);
+    UntidyType type(700);
+    type.m_font = font.GetSafeHandle();
+    m_grid.AddCellType(&type);
+    m_grid.SetLockedColumns(2);
+    m_grid.SetSH_Width(250);
+    // Every other cell is right-aligned text of the base type, the rest is untidy.
+    int read = 0;
+    m_grid.m_onGetCell = [&](CUGCell *cell) {
+        if (++read % 2 == 0)
+            cell->SetCellType(700);
+        else
+            cell->SetAlignment(UG_ALIGN_RIGHT);
+    };
+    for (HWND window : {m_grid.Cells(), m_grid.TopHeading(), m_grid.SideHeading(), m_grid.Corner()}) {
+        type.m_found.clear();
+        ::InvalidateRect(window, nullptr, FALSE);
+        ::UpdateWindow(window);
+        EXPECT_EQ((std::set<std::string>{"0 2 13 0 16777215 pen brush font"}), type.m_found);
+    }
+    m_grid.m_onGetCell = nullptr;
+    m_grid.RemoveCellType(700);
+    m_grid.SetDefaultFont(nullptr);
+}
+
+TEST_F(GridWindowTest, TheFrameTellsTheGridOfNewSystemColours) {
+    Fill(4, 10);
+    const COLORREF before = ::GetSysColor(COLOR_WINDOW), rose = RGB(250, 200, 200);
+    const int index = COLOR_WINDOW;
+    ::SetSysColors(1, &index, &rose);
+    m_host.SendMessage(WM_SYSCOLORCHANGE, 0, 0);
+    const COLORREF shown = m_grid.m_GI.m_gridDefault.GetBackColor();
+    ::SetSysColors(1, &index, &before);
+    m_host.SendMessage(WM_SYSCOLORCHANGE, 0, 0);
+    EXPECT_EQ(rose, shown);
+    EXPECT_EQ(before, m_grid.m_GI.m_gridDefault.GetBackColor());
 }
 
 } // namespace

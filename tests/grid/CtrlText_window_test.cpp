@@ -71,6 +71,14 @@ TEST_F(CtrlTextTest, AnEmptyFieldClearsItsCell) {
     EXPECT_EQ("a,,c/,1.1,2.1/z,1.2,2.2/", Texts());
 }
 
+TEST_F(CtrlTextTest, TheFieldBehindAClosingTabIsEmptyAndClearsItsCell) {
+    Fill(3, 3);
+    m_grid.PasteText("a\t\r\nb\t");
+    EXPECT_EQ("a,,2.0/b,,2.1/0.2,1.2,2.2/", Texts());
+    m_grid.PasteText("");
+    EXPECT_EQ("a,,2.0/b,,2.1/0.2,1.2,2.2/", Texts());
+}
+
 TEST_F(CtrlTextTest, WhatDoesNotFitIsLeftOut) {
     Fill(2, 2);
     m_grid.EnableMultiSelect(1);

@@ -53,6 +53,21 @@ TEST_F(CtrlTypesTest, ARemovedTypeLeavesAnEntryThatTheNextOneTakes) {
     EXPECT_EQ(&third, m_grid.GetCellType(901));
 }
 
+TEST_F(CtrlTypesTest, TheEntryOfTheBaseTypeCanBeEmptiedAndFilledAgain) {
+    Fill(3, 5);
+    CUGCellType *base = m_grid.GetCellType(0);
+    EXPECT_EQ(GRID_SUCCESS, m_grid.RemoveCellType(0));
+    EXPECT_EQ(base, m_grid.GetCellType(0)); // the control's own serves where the entry is empty
+    EXPECT_EQ(base, m_grid.GetCellType(4711));
+    EXPECT_EQ(GRID_ERROR, m_grid.RemoveCellType(0));
+    m_grid.Update();
+    TenPixelType other(0);
+    m_grid.AddCellType(&other);
+    EXPECT_EQ(&other, m_grid.GetCellType(0));
+    EXPECT_EQ(&other, m_grid.GetCellType(4711));
+    EXPECT_EQ(GRID_SUCCESS, m_grid.RemoveCellType(0));
+}
+
 TEST_F(CtrlTypesTest, RemovingAnUnknownTypeIsAnError) {
     EXPECT_EQ(GRID_ERROR, m_grid.RemoveCellType(4711));
 }

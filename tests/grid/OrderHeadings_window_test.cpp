@@ -105,6 +105,82 @@ TEST_F(OrderHeadingsTest, TheCellsFollowWhileSizingInModeTwoOnly) {
     }
 }
 
+void LetGo() {
+    BYTE state[256];
+    ::GetKeyboardState(state);
+    state[VK_LBUTTON] = 0;
+    ::SetKeyboardState(state);
+}
+
+TEST_F(OrderHeadingsTest, APressWhoseButtonCameUpMeanwhileSizesNothing) {
+    Fill(4, 10);
+    m_grid.m_onEditFinish = LetGo;
+    for (HWND heading : {m_grid.TopHeading(), m_grid.SideHeading()}) {
+        const bool top = heading == m_grid.TopHeading();
+        m_grid.StartEdit();
+        HeldKeys button({VK_LBUTTON});
+        PressLeft(heading, top ? 200 : 20, top ? 10 : 40);
+        EXPECT_EQ(nullptr, ::GetCapture());
+        MoveMouse(heading, top ? 230 : 20, top ? 10 : 55, MK_LBUTTON);
+        int width = 0, height = 0;
+        m_grid.GetColWidth(1, &width);
+        m_grid.GetRowHeight(1, &height);
+        EXPECT_EQ(CSize(100, 20), CSize(width, height));
+    }
+    m_grid.m_onEditFinish = nullptr;
+}
+
+TEST_F(OrderHeadingsTest, ABoxOfTheClickItselfLeavesTheMouseFree) {
+    Fill(4, 10);
+    m_grid.SetUserSizingMode(0);
+    m_grid.m_onNote = [&](const std::string &name) {
+        if (name.find("LClicked") != std::string::npos)
+            LetGo();
+    };
+    const struct {
+        HWND window;
+        CPoint at;
+    } presses[] = {{m_grid.TopHeading(), {150, 10}}, {m_grid.SideHeading(), {20, 50}}, {m_grid.Corner(), {10, 5}}};
+    for (const auto &press : presses) {
+        HeldKeys button({VK_LBUTTON});
+        PressLeft(press.window, press.at.x, press.at.y);
+        EXPECT_EQ(nullptr, ::GetCapture());
+    }
+    m_grid.m_onNote = nullptr;
+}
+
+TEST_F(OrderHeadingsTest, AMoveWithoutTheButtonEndsTheSizing) {
+    Fill(4, 10);
+    PressLeft(m_grid.TopHeading(), 200, 10);
+    MoveMouse(m_grid.TopHeading(), 210, 10, MK_LBUTTON);
+    MoveMouse(m_grid.TopHeading(), 250, 10, 0);
+    EXPECT_EQ(nullptr, ::GetCapture());
+    int width = 0;
+    m_grid.GetColWidth(1, &width);
+    EXPECT_EQ(110, width);
+    PressLeft(m_grid.Corner(), 48, 5);
+    MoveMouse(m_grid.Corner(), 58, 5, MK_LBUTTON);
+    MoveMouse(m_grid.Corner(), 78, 5, 0);
+    EXPECT_EQ(nullptr, ::GetCapture());
+    EXPECT_EQ(58, m_grid.GetSH_Width());
+}
+
+TEST_F(OrderHeadingsTest, WhatTheNotificationMakesOfASizeIsShown) {
+    Fill(4, 10);
+    m_grid.m_onNote = [&](const std::string &name) {
+        if (name == "ColSized")
+            PumpAll(); // all is painted, and only what comes behind it is left
+    };
+    m_grid.m_onColSized = [](int *width) { *width = 40; };
+    PressLeft(m_grid.TopHeading(), 200, 10);
+    MoveMouse(m_grid.TopHeading(), 210, 10, MK_LBUTTON);
+    ReleaseLeft(m_grid.TopHeading(), 210, 10);
+    EXPECT_TRUE(::GetUpdateRect(m_grid.Cells(), nullptr, FALSE));
+    EXPECT_TRUE(::GetUpdateRect(m_grid.TopHeading(), nullptr, FALSE));
+    m_grid.m_onNote = nullptr;
+    m_grid.m_onColSized = nullptr;
+}
+
 TEST_F(OrderHeadingsTest, AVetoOfSizingIsAClick) {
     Fill(4, 10);
     m_grid.m_vetoes = {"CanSizeCol", "CanSizeRow"};

@@ -129,6 +129,64 @@ TEST_F(OrderMouseTest, AMouseThatIsTakenAwayEndsTheDrag) {
     EXPECT_EQ("", Taken());
 }
 
+// As the system shows the button while a box that came up during the press is closed with the mouse.
+void LetGo() {
+    BYTE state[256];
+    ::GetKeyboardState(state);
+    state[VK_LBUTTON] = 0;
+    ::SetKeyboardState(state);
+}
+
+TEST_F(OrderMouseTest, APressWhoseButtonCameUpMeanwhileHoldsNoMouse) {
+    Fill(5, 50);
+    m_grid.EnableMultiSelect(1);
+    m_grid.StartEdit();
+    HeldKeys button({VK_LBUTTON});
+    m_grid.m_onEditFinish = LetGo;
+    PressCell(2, 2);
+    m_grid.m_onEditFinish = nullptr;
+    EXPECT_EQ(nullptr, ::GetCapture());
+    DragToCell(3, 3);
+    EXPECT_EQ("cur=(2,2) view=(0,0) size=5x50", m_grid.State());
+    EXPECT_EQ("2.2", m_grid.Selected());
+}
+
+TEST_F(OrderMouseTest, APressWhoseButtonIsStillDownHoldsTheMouse) {
+    Fill(5, 50);
+    m_grid.StartEdit();
+    HeldKeys button({VK_LBUTTON});
+    PressCell(2, 2);
+    EXPECT_EQ(m_grid.Cells(), ::GetCapture());
+    ReleaseCell(2, 2);
+}
+
+TEST_F(OrderMouseTest, AMoveWithoutTheButtonEndsTheDrag) {
+    Fill(5, 50);
+    PressCell(1, 1);
+    MoveMouse(m_grid.Cells(), 250, 50, 0);
+    EXPECT_EQ(nullptr, ::GetCapture());
+    EXPECT_EQ("cur=(1,1) view=(0,0) size=5x50", m_grid.State());
+    DragToCell(3, 3);
+    EXPECT_EQ("cur=(1,1) view=(0,0) size=5x50", m_grid.State());
+}
+
+TEST_F(OrderMouseTest, ADoubleClickWhoseButtonCameUpMeanwhileHoldsNoMouse) {
+    m_grid.SetNumberCols(2);
+    m_grid.SetNumberRows(2);
+    CUGCell cell;
+    cell.SetText("5");
+    cell.SetCellType(6);
+    m_grid.SetCell(0, 0, &cell);
+    HeldKeys button({VK_LBUTTON});
+    m_grid.m_onNote = [](const std::string &name) {
+        if (name == "CellTypeNotify")
+            LetGo();
+    };
+    Send(WM_LBUTTONDBLCLK, {92, 4}, MK_LBUTTON);
+    m_grid.m_onNote = nullptr;
+    EXPECT_EQ(nullptr, ::GetCapture());
+}
+
 // What follows a type's button press, and what no type asked for.
 class TrackingType : public CUGCellType {
 public:

@@ -171,7 +171,11 @@ void RandomEvents::HoldOutside(CPoint from, int x, int y, int steps) {
     Say("drag outside from %ld,%ld to %d,%d in mode %d", from.x, from.y, x, y, mode);
     const CUGAxis &cols = m_grid.m_GI.m_cols, &rows = m_grid.m_GI.m_rows;
     const bool across = m_grid.m_dragsAcross;
-    if (rows.m_count == 0 || cols.m_count == 0 || (across && (cols.m_count < 2 || rows.m_extent == 0)))
+    if (rows.m_count == 0 || cols.m_count == 0)
+        return;
+    // Columns 1 and 2 are joined in places: where the row ends with them nothing is told either.
+    constexpr long kEndsWithBlock = 3;
+    if (across && (cols.m_count < 2 || cols.m_count == kEndsWithBlock || rows.m_extent == 0))
         return;
     const bool vetoing = std::exchange(m_grid.m_vetoing, false);
     m_grid.SetBallisticMode(mode);

@@ -30,6 +30,18 @@ TEST_F(CompilerTest, ASourceThatTellsNoPathDoesNotGetTheLastOnes) {
     m_compiler.DetachDataSource();
 }
 
+TEST_F(CompilerTest, TheFirstChecksAreToBeHadAlone) {
+    CString text;
+    EXPECT_FALSE(m_compiler.CheckDataSource(text));
+    EXPECT_STREQ(text, "No data source attached!");
+    Open(2, {});
+    EXPECT_FALSE(m_compiler.CheckDataSource(text));
+    EXPECT_STREQ(text, "File has no data!");
+    Open(2, {{"A", "a"}});
+    EXPECT_TRUE(m_compiler.CheckDataSource(text));
+    EXPECT_EQ(m_app.Take(), "");
+}
+
 TEST_F(CompilerTest, AFileWithoutFieldsOrRecords) {
     EXPECT_EQ(Compile(0, {{}}), "(-1,-1) File has no data!");
     EXPECT_EQ(Compile(2, {}), "(-1,-1) File has no data!");
@@ -49,16 +61,18 @@ TEST_F(CompilerTest, TheTableStandsBesideTheSource) {
     const auto nameOf = [&](const char *path) {
         TextSource source(path, 2, {});
         m_compiler.AttachDataSource(&source);
+        name = "before";
         m_compiler.GetLookupFileName(name);
         m_compiler.DetachDataSource();
         return std::string(name);
     };
     EXPECT_EQ(nameOf("C:\\data\\codes.dat"), "codes.lbn");
     EXPECT_EQ(nameOf("C:\\data\\codes.old.dat"), "codes.old.lbn");
-    EXPECT_EQ(nameOf("codes.dat"), "codes.lbn");
-    EXPECT_EQ(nameOf("\\codes.dat"), "\\codes.lbn"); // the separator is the first character
+    // Without a folder, or with the separator as the first character, the caller's name stays.
+    EXPECT_EQ(nameOf("codes.dat"), "before");
+    EXPECT_EQ(nameOf("\\codes.dat"), "before");
     EXPECT_EQ(nameOf("C:\\data\\codes"), "codes.lbn");
-    EXPECT_EQ(nameOf(".dat"), ".dat.lbn");
+    EXPECT_EQ(nameOf(".dat"), "before");
     EXPECT_EQ(nameOf("C:\\data.old\\codes.dat"), "codes.lbn");
     EXPECT_EQ(nameOf("C:\\data.old\\codes"), "data.lbn"); // the last dot is the folder's
 }

@@ -31,6 +31,17 @@ TEST_F(LookupTreeTest, OneCodeOfOneLevel) {
     EXPECT_EQ(Text(), "a(b*{ab})");
 }
 
+TEST_F(LookupTreeTest, NodesAndTextsOfCodesLieApart) {
+    Add({"ab"});
+    const size_t nodes = m_tree.GetPool().GetHeldBytes(), texts = m_tree.GetTextPool().GetHeldBytes();
+    EXPECT_GT(nodes, 0u);
+    EXPECT_GT(texts, 0u);
+    EXPECT_EQ(nodes + texts, m_tree.GetHeldBytes());
+    m_tree.Clear();
+    EXPECT_EQ(m_tree.GetPool().GetHeldBytes(), 0u);
+    EXPECT_EQ(m_tree.GetTextPool().GetHeldBytes(), 0u);
+}
+
 TEST_F(LookupTreeTest, ChildrenStandInTheOrderOfTheirBytes) {
     for (const char *code : {"m", "\xE9", "a", "Z", "0", " ", "z"})
         Add({code});

@@ -92,6 +92,36 @@ TEST_F(MenuTreeTest, ACodeThatBeginsWithAnExclamationMarkHasNoDisplayCode) {
     EXPECT_EQ(m_root.FindChild("!other", true), 0);
 }
 
+TEST_F(MenuTreeTest, TheDisplayCodeIsTheCodeUnlessItBeginsWithAnExclamationMark) {
+    EXPECT_STREQ(CMenuTree::DisplayCode("AB!"), "AB!");
+    EXPECT_STREQ(CMenuTree::DisplayCode("!AB"), "");
+    EXPECT_STREQ(CMenuTree::DisplayCode(""), "");
+    EXPECT_EQ(Insert(m_root, "AB!")->GetCodeLength(), 3);
+    EXPECT_EQ(Insert(m_root, "!AB")->GetCodeLength(), 0);
+}
+
+TEST_F(MenuTreeTest, AListIsMadeOfPartsInTheOrderThatTheyCome) {
+    CMenuList *list = m_root.NewList();
+    EXPECT_EQ(list->FindCode("A", true), -1);
+    for (const char *code : {"B", "D"}) {
+        CMenuTree *node = m_root.AppendNew(list);
+        node->SetCode(code, 1);
+        node->SetDescription("text and more", 4);
+        EXPECT_STREQ(node->m_sCode, code);
+        EXPECT_STREQ(node->m_sDescription, "text");
+    }
+    CTreePool pool;
+    CMenuTree *first = m_root.NewNode("A", "", 0);
+    list->Reserve(pool, 3);
+    list->InsertAt(pool, 0, first);
+    EXPECT_EQ(list->GetAt(0), first);
+    bool found = false;
+    EXPECT_EQ(list->FindCode("D", true, &found), 2);
+    EXPECT_TRUE(found);
+    EXPECT_EQ(list->FindCode("C", true, &found), 2);
+    EXPECT_FALSE(found);
+}
+
 TEST_F(MenuTreeTest, WidthsAreTheLongestOfTheChildren) {
     Insert(m_root, "AAAA", "x");
     Insert(m_root, "B", "long one");
@@ -148,6 +178,18 @@ TEST_F(MenuTreeTest, TheFullCodeLeavesOutNoCode) {
     text.Empty();
     m_root.GetFullCode(text, 0);
     EXPECT_STREQ(text, "AB");
+}
+
+// Only the code "!" itself stands for none; one that begins so has no display code, and yet is part of what is below it.
+TEST_F(MenuTreeTest, TheFullCodeHasCodesThatOnlyBeginWithAnExclamationMark) {
+    CMenuTree *begins = Insert(*Insert(m_root, "AB"), "!x");
+    CMenuTree *leaf = Insert(*begins, "12");
+    CString text;
+    leaf->GetFullCode(text);
+    EXPECT_STREQ(text, "AB!x12");
+    text.Empty();
+    begins->GetFullCode(text, 0);
+    EXPECT_STREQ(text, "AB!x12");
 }
 
 TEST_F(MenuTreeTest, CollectPathsGoesDownToEachLeafWithTheRawCodes) {

@@ -15,6 +15,8 @@ int RecordingGrid::Note(const char *name, std::initializer_list<long> arguments)
     m_events.push_back(event + ")");
     if (m_log != nullptr)
         m_log->Note(m_events.back());
+    if (m_onNote)
+        m_onNote(name);
     return m_vetoes.count(name) != 0 ? 0 : 1;
 }
 
@@ -72,6 +74,12 @@ void RecordingGrid::OnColSizing(int col, int *width) {
     Note("ColSizing", {col, *width});
     if (m_onSizing)
         m_onSizing(width);
+}
+
+void RecordingGrid::OnColSized(int col, int *width) {
+    Note("ColSized", {col, *width});
+    if (m_onColSized)
+        m_onColSized(width);
 }
 
 void RecordingGrid::OnCellChange(int oldCol, int newCol, long oldRow, long newRow) {
@@ -139,7 +147,10 @@ int RecordingGrid::OnEditVerify(int col, long row, CEdit *, UINT *key) {
 }
 
 int RecordingGrid::OnEditFinish(int col, long row, CEdit *) {
-    return Note("EditFinish", {col, row});
+    const int answer = Note("EditFinish", {col, row});
+    if (m_onEditFinish)
+        m_onEditFinish();
+    return answer;
 }
 
 int RecordingGrid::OnEditContinue(int oldCol, long oldRow, int *newCol, long *newRow) {

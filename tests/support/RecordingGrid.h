@@ -39,13 +39,16 @@ public:
     bool m_notesDrawSetup = false;   // it comes with every paint too
     bool m_notesEditSetup = false;   // SetupEditWindow, before EditStart
     int m_dropAnswer = 0;            // of DragEnter, DragOver and DragDrop
+    std::function<void(const std::string &)> m_onNote; // of every notification, by its name
     std::function<void(CUGCell *)> m_onGetCell;
     std::function<void(UINT *)> m_onKeyDown;
     std::function<void(UINT *)> m_onCharDown;
     std::function<void(int, long, UINT *)> m_onEditVerify;
+    std::function<void()> m_onEditFinish;
     std::function<void(int *, long *)> m_onEditContinue;
     std::function<void(RECT *, DWORD *)> m_onSetupEditWindow;
     std::function<void(int *)> m_onSizing;
+    std::function<void(int *)> m_onColSized;
     std::function<void()> m_onHitBottom;
     std::function<void()> m_onHitTop;
     std::function<void()> m_onLClicked;
@@ -60,7 +63,7 @@ public:
     void OnHitTop(long numRows, long rowsPast) override;
     int OnCanSizeCol(int col) override { return Note("CanSizeCol", {col}); }
     void OnColSizing(int col, int *width) override;
-    void OnColSized(int col, int *width) override { Note("ColSized", {col, *width}); }
+    void OnColSized(int col, int *width) override;
     int OnCanSizeRow(long row) override { return Note("CanSizeRow", {row}); }
     void OnRowSizing(long row, int *height) override { Note("RowSizing", {row, *height}); }
     void OnRowSized(long row, int *height) override { Note("RowSized", {row, *height}); }

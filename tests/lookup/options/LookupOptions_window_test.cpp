@@ -116,6 +116,20 @@ public:
     }
 };
 
+TEST_F(LookupOptionsTest, TheFieldsSettingsAreSetEachByItself) {
+    struct Open : CUGOrvaneLookupCellType {
+        static std::string Get() {
+            return std::string(ms_bIsResolvingSubMenus ? "menus " : "- ") + (ms_bValidateOnChar ? "onkey" : "-");
+        }
+    };
+    CUGOrvaneLookupCellType::SetResolvingSubMenus(true);
+    CUGOrvaneLookupCellType::SetValidateOnChar(false);
+    EXPECT_EQ("menus -", Open::Get());
+    CUGOrvaneLookupCellType::SetResolvingSubMenus(false);
+    CUGOrvaneLookupCellType::SetValidateOnChar(true);
+    EXPECT_EQ("- onkey", Open::Get());
+}
+
 } // namespace
 
 // --- Options

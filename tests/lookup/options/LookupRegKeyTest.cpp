@@ -71,6 +71,19 @@ constexpr Option kOptions[] = {
     {"beep", "\\User", 0x20, &CLookupRegKey::SetBeepOnInvalidCode, &CLookupRegKey::IsBeepingOnInvalidCode},
 };
 
+TEST_F(LookupRegKeyTest, AKeyIsOpenWhereItHasARootAndTellsWhatItHolds) {
+    CRegistryKey key(m_registry.Root(), m_registry.Below("\\Some"));
+    EXPECT_TRUE(key.IsOpen());
+    EXPECT_FALSE(key.Has("value"));
+    EXPECT_TRUE(key.WriteNumber("value", 5));
+    EXPECT_TRUE(key.Has("value"));
+    EXPECT_TRUE(key.Delete("value"));
+    EXPECT_FALSE(key.Has("value"));
+    const CRegistryKey none(nullptr, "Some");
+    EXPECT_FALSE(none.IsOpen());
+    EXPECT_FALSE(none.Has("value"));
+}
+
 } // namespace
 
 TEST_F(LookupRegKeyTest, EveryOptionHasItsBit) {
