@@ -2,6 +2,8 @@
 
 #include "search/PatternText.h"
 
+#include <set>
+
 class CFindReplaceData::CImpl {
 public:
     virtual ~CImpl() { m_bValid = false; }
@@ -23,15 +25,29 @@ CString TextOf(const std::string &text) {
     return CString(text.data(), static_cast<int>(text.size()));
 }
 
+std::set<const CFindReplaceData *> &LiveObjects() {
+    static std::set<const CFindReplaceData *> live;
+    return live;
+}
+
 std::string Typed(const char *text) {
     return text != nullptr ? text : "";
 }
 
 } // namespace
 
-CFindReplaceData::CFindReplaceData() : m_pImpl(std::make_unique<CImpl>()) {}
+CFindReplaceData::CFindReplaceData() : m_pImpl(std::make_unique<CImpl>()) {
+    LiveObjects().insert(this);
+}
 
-CFindReplaceData::~CFindReplaceData() = default;
+CFindReplaceData::~CFindReplaceData() {
+    LiveObjects().erase(this);
+}
+
+const CFindReplaceData *CFindReplaceData::FromMessage(WPARAM address) {
+    const auto found = LiveObjects().find(reinterpret_cast<const CFindReplaceData *>(address));
+    return found != LiveObjects().end() ? *found : nullptr;
+}
 
 CFindReplaceData &CFindReplaceData::operator=(const CFindReplaceData &other) {
     if (this != &other)

@@ -17,6 +17,9 @@ public:
     ~CFindReplaceData();
     CFindReplaceData(const CFindReplaceData &) = delete;
     CFindReplaceData &operator=(const CFindReplaceData &other);
+    // The object of this address, as a window message carries it; null where none lives there, for anybody can send
+    // one. Objects live on the user-interface thread.
+    static const CFindReplaceData *FromMessage(WPARAM address);
 
     // `find` and `replace` as typed; they are converted here. `matchMode` is one of Search::MatchMode. `useRegex` says
     // that `find` is a regular expression and not wildcard text, and `replace` its format.

@@ -171,7 +171,6 @@ private:
 
     void LockLoadedColumns();
     bool AddedFieldShown();
-    void DropButtonMessages();
     void ReadCellText(int col, long row);
     void WriteCellText(int col, long row, const char *text);
     void FindNext(const CFindReplaceData &data);

@@ -30,7 +30,8 @@ void COrvaneEditor::OnFindAgain() {
 }
 
 LRESULT COrvaneEditor::OnFindNext(WPARAM wParam, LPARAM) {
-    RunCommand([&] { FindNext(*reinterpret_cast<const CFindReplaceData *>(wParam)); });
+    if (const CFindReplaceData *data = CFindReplaceData::FromMessage(wParam))
+        RunCommand([&] { FindNext(*data); });
     return 0;
 }
 

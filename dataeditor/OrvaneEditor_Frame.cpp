@@ -254,18 +254,6 @@ void COrvaneEditor::WriteCellText(int col, long row, const char *text) {
     SetCell(col, row, &cell);
 }
 
-// Mouse buttons that were pressed meanwhile are lost on purpose.
-void COrvaneEditor::DropButtonMessages() {
-    MSG message;
-    while (::PeekMessageA(&message, m_grid.GetSafeHwnd(), 0, 0, PM_REMOVE)) {
-        if (message.message == WM_LBUTTONDOWN || message.message == WM_LBUTTONUP ||
-            message.message == WM_LBUTTONDBLCLK)
-            continue;
-        ::TranslateMessage(&message);
-        ::DispatchMessageA(&message);
-    }
-}
-
 void COrvaneEditor::EnterPickListText(const char *text) {
     if (IsGridReadOnly())
         return;
@@ -273,7 +261,7 @@ void COrvaneEditor::EnterPickListText(const char *text) {
     m_nPickListCol = GetCurrentCol();
     m_nPickListRow = GetCurrentRow();
     const bool inMemory = RunInMemory([&] { WriteCellText(m_nPickListCol, m_nPickListRow, text); });
-    DropButtonMessages();
+    PumpDroppingClicks();
     m_nPickListTimer = SetTimer(kPickListTimerId, kPickListRestMs, nullptr); // it lets the grid paint again
     OnEditNotify();
     if (!inMemory)
@@ -283,7 +271,7 @@ void COrvaneEditor::EnterPickListText(const char *text) {
 // The selection and the current cell end up on the cell that was picked for.
 void COrvaneEditor::OnTimer(UINT_PTR id) {
     if (id == m_nPickListTimer && m_nPickListTimer != 0) {
-        DropButtonMessages();
+        PumpDroppingClicks();
         ClearSelections();
         GotoCell(m_nPickListCol, m_nPickListRow);
         EnablePainting(1);

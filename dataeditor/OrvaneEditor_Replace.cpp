@@ -47,10 +47,10 @@ void COrvaneEditor::OnFindReplace() {
 
 LRESULT COrvaneEditor::OnFindReplaceNext(WPARAM wParam, LPARAM) {
     CEditCommandGuard guard(this);
-    if (IsGridReadOnly())
+    const CFindReplaceData *data = CFindReplaceData::FromMessage(wParam);
+    if (IsGridReadOnly() || data == nullptr)
         return 0;
     RunCommand([&] {
-        const auto *data = reinterpret_cast<const CFindReplaceData *>(wParam);
         CString find, replace, typed;
         data->GetFindString(find);
         data->GetReplaceString(replace);

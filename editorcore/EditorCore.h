@@ -67,7 +67,7 @@ public:
     virtual void SetTextAlignment();
 
     // --- Open, close, save
-    // False when the source refuses; everything is as it was then.
+    // False when the source refuses, or while a close is under way already; everything is as it was then.
     bool CloseDataSource(bool argument);
     void OnSave(int unused);
     // `filtered` with a filter number of 0 or more saves the filtered records only.
@@ -254,6 +254,8 @@ protected:
     // Whole columns or rows, and the mode that goes with them.
     void SelectColumns(int firstCol, int lastCol);
     void SelectRows(long firstRow, long lastRow);
+    // Handles what waits for the cells, but for clicks of the left button: those are lost.
+    void PumpDroppingClicks();
     // The first columns also stand in the side heading. As many as there are of `count`; the side heading's width is the
     // caller's.
     void LockColumns(int count);
@@ -310,8 +312,12 @@ private:
     bool OpenTable(const char *path, const char *table, const char *options);
     void ShowTable(const char *path, const char *table);
     void AbandonLoad();
-    void PumpDroppingClicks();
     void DropSource();
+    struct Closing { // a close under way
+        CUGDataSource *source = nullptr;
+        bool editorGone = false;
+    };
+    bool CloseSource(bool argument, Closing *closing);
     void LeaveTable();
     void GoToFirstCell();
     void ForgetHeadingSelection();
@@ -377,6 +383,7 @@ private:
     int ShownColumnFrom(int col, int step);
 
     CUGDataSource *m_pSource = nullptr; // owned while it is in the slot m_nDataSrcIndex of the grid's table
+    Closing *m_pClosing = nullptr;      // while the table is being closed
     int m_nColsToLock = 0;              // asked for; there may be fewer columns
     bool m_bSavingEdit = false;         // SaveEditContents tells the title itself
     bool m_bTitleAwaitsWrite = false;   // the edit being finished changes its cell

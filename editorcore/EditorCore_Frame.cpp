@@ -136,13 +136,17 @@ CEditorCore::~CEditorCore() {
 
 // The source goes without being asked: nobody is left who could heed a refusal.
 void CEditorCore::DropSource() {
-    if (CUGDataSource *source = GetCurrentDataSrc(false)) {
-        if (m_bDataSrcOpen)
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    if (source != nullptr) {
+        if (m_bDataSrcOpen && m_pClosing == nullptr)
             source->Close(false);
         RemoveDataSource(m_nDataSrcIndex);
         m_GI.m_currentSource = 0;
-        delete source;
     }
+    if (m_pClosing != nullptr)
+        m_pClosing->editorGone = true; // the close that is under way deletes the source
+    if (m_pClosing == nullptr || m_pClosing->source == nullptr)
+        delete source;
     m_bDataSrcOpen = false;
     m_pSource = nullptr;
     m_nDataSrcIndex = -1;

@@ -2,6 +2,7 @@
 #include "editorcore/EditorCore.h"
 #include "editorcore/FrozenWidthScope.h"
 #include "editorcore/MemoryGuard.h"
+#include "editorcore/WindowPump.h"
 #include "grid/PaintingScope.h"
 
 // A source that is open, or null: the source itself has said why.
@@ -118,28 +119,42 @@ void CEditorCore::AbandonLoad() {
 
 // Clicks made while the table was loading never reach the grid.
 void CEditorCore::PumpDroppingClicks() {
-    MSG message;
-    while (::PeekMessageA(&message, m_grid.GetSafeHwnd(), 0, 0, PM_REMOVE)) {
-        if (message.message == WM_LBUTTONDBLCLK || message.message == WM_LBUTTONDOWN ||
-            message.message == WM_LBUTTONUP)
-            continue;
-        ::TranslateMessage(&message);
-        ::DispatchMessageA(&message);
-    }
+    PumpWindow(m_grid.GetSafeHwnd(), [](const MSG &message) {
+        return message.message == WM_LBUTTONDBLCLK || message.message == WM_LBUTTONDOWN ||
+               message.message == WM_LBUTTONUP;
+    });
 }
 
 bool CEditorCore::CloseDataSource(bool argument) {
     if (!m_bDataSrcOpen)
         return true;
+    if (m_pClosing != nullptr)
+        return false; // asked again from within a question of the source's, which is still at work
+    Closing closing;
+    m_pClosing = &closing;
+    const bool closed = CloseSource(argument, &closing);
+    if (closing.editorGone) { // whoever destroyed it left the source, which was at work, to be deleted here
+        delete closing.source;
+        return true;
+    }
+    m_pClosing = nullptr;
+    if (closed)
+        LeaveTable();
+    return closed;
+}
+
+// Ends the edit and asks the source. The editor may be gone afterwards: a question pumps messages.
+bool CEditorCore::CloseSource(bool argument, Closing *closing) {
     if (GetEditControl() != nullptr)
         SaveEditContents();
-    CUGDataSource *source = GetCurrentDataSrc(false);
-    if (source != nullptr && !m_bUsingBackupFile)
-        source->Save();
-    if (source != nullptr && source->Close(argument) != GRID_SUCCESS)
-        return false;
-    LeaveTable();
-    return true;
+    if (closing->editorGone)
+        return true;
+    closing->source = GetCurrentDataSrc(false);
+    if (closing->source == nullptr)
+        return true;
+    if (!m_bUsingBackupFile)
+        closing->source->Save();
+    return closing->source->Close(argument) == GRID_SUCCESS;
 }
 
 // The source has been closed, or a host has taken it.

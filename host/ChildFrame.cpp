@@ -1,6 +1,7 @@
 #include "host/ChildFrame.h"
 
 #include "host/FileInformation.h"
+#include "host/HostApp.h"
 #include "host/MainFrame.h"
 #include "host/Resource.h"
 
@@ -119,8 +120,18 @@ bool CChildFrame::LoadTable(const char *path) {
 }
 
 void CChildFrame::OnClose() {
-    if (m_editor.CloseDataSource(false))
+    if (GetHostApp()->MayClose(this) && m_editor.CloseDataSource(false))
         CMDIChildWnd::OnClose();
+}
+
+bool CChildFrame::SaveOrDiscard() {
+    m_editor.SaveEditContents();
+    if (!m_editor.IsFileModified())
+        return true;
+    const int answer = CHostService::AskToSave(m_editor.GetFilePath());
+    if (answer == IDYES)
+        m_editor.OnSave();
+    return answer == IDNO || (answer == IDYES && !m_editor.IsFileModified());
 }
 
 void CChildFrame::RefreshTitle() {

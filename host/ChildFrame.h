@@ -16,6 +16,9 @@ public:
     void RefreshTitle();
     void FocusTable() { m_editor.SetFocus(); }
     CTableEditor &Editor() { return m_editor; }
+    // Asks about changes that are not saved, as before a close; the table stays open. False when the user wants to stay,
+    // or when they could not be saved.
+    bool SaveOrDiscard();
 
 protected:
     BOOL PreTranslateMessage(MSG *message) override;

@@ -3,6 +3,7 @@
 #include <afxdlgs.h>
 
 #include "editorcore/EditorCore.h"
+#include "grid/ValueScope.h"
 #include "host/ChildFrame.h"
 #include "host/GalleryFrame.h"
 #include "host/MainFrame.h"
@@ -83,6 +84,7 @@ BOOL CHostApp::OpenRecentFile(LPCTSTR path) {
 }
 
 bool CHostApp::OpenTable(const char *path) {
+    const CUGValueScope<bool> opening(&m_opening, true);
     if (CEditorCore *open = CEditorCore::GetOpenFilesGrid(path)) {
         if (auto *child = DYNAMIC_DOWNCAST(CChildFrame, open->GetParent()))
             child->MDIActivate();
@@ -104,6 +106,20 @@ bool CHostApp::OpenTable(const char *path) {
     child->MDIActivate();
     child->FocusTable();
     AddToRecentFileList(path);
+    return true;
+}
+
+bool CHostApp::MayClose(CWnd *window) {
+    if (m_service.LongWork().IsAtWork()) {
+        m_service.LongWork().StopToClose(window->m_hWnd);
+        return false;
+    }
+    const HWND asking = ::GetLastActivePopup(m_pMainWnd->m_hWnd);
+    if (!m_pMainWnd->IsWindowEnabled() || m_opening) {
+        ::SetForegroundWindow(asking);
+        ::MessageBeep(MB_ICONEXCLAMATION);
+        return false;
+    }
     return true;
 }
 

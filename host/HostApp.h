@@ -16,6 +16,9 @@ public:
     CHostService &Service() { return m_service; }
     // Opens the table in a child window of its own, or brings the one that shows it to the front.
     bool OpenTable(const char *path);
+    // Whether a window may be closed now. While something is asked it may not, and what asks comes forward; long work
+    // is stopped first, and the window closed after it; while a table opens it waits.
+    bool MayClose(CWnd *window);
 
 private:
     DECLARE_MESSAGE_MAP()
@@ -28,6 +31,7 @@ private:
     CString CommandLineFile() const;
 
     CHostService m_service;
+    bool m_opening = false; // a table
 };
 
 CHostApp *GetHostApp();

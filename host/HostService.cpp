@@ -59,10 +59,14 @@ int CHostService::CheckAbort() {
     return m_longWork.Step() ? 0 : 1;
 }
 
-bool CHostService::MayClose(CDbfDataSource &source) {
+int CHostService::AskToSave(const char *path) {
     CString text;
-    text.Format("Save the changes to %s?", static_cast<const char *>(NameOf(PathOf(source))));
-    switch (AfxMessageBox(text, MB_YESNOCANCEL | MB_ICONQUESTION)) {
+    text.Format("Save the changes to %s?", static_cast<const char *>(NameOf(path)));
+    return AfxMessageBox(text, MB_YESNOCANCEL | MB_ICONQUESTION);
+}
+
+bool CHostService::MayClose(CDbfDataSource &source) {
+    switch (AskToSave(PathOf(source))) {
     case IDYES: return source.Save() == GRID_SUCCESS;
     case IDNO: return true;
     default: return false;

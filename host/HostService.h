@@ -12,6 +12,8 @@ class CDbfDataSource;
 
 class CHostService final : public CVAppInterface {
 public:
+    // IDYES, IDNO or IDCANCEL, of a table with changes.
+    static int AskToSave(const char *path);
     CHostService();
     CHostOptions &Options() { return m_options; }
     // Takes back the wait cursor that a failed operation of the library left raised.

@@ -2,10 +2,12 @@
 
 #include <afxext.h>
 
+#include "editorcore/WindowPump.h"
 #include "host/Resource.h"
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 BEGIN_MESSAGE_MAP(CLongWork, CWnd)
     ON_WM_ERASEBKGND()
@@ -117,15 +119,21 @@ void CLongWork::Update() {
 
 // The messages of this window are worked off, so that its button works and it is painted.
 void CLongWork::LookAtInput() {
+    PumpWindow(m_hWnd, [](const MSG &) { return false; });
     MSG message;
-    while (::PeekMessage(&message, m_hWnd, 0, 0, PM_REMOVE)) {
-        ::TranslateMessage(&message);
-        ::DispatchMessage(&message);
-    }
+    if (::PeekMessage(&message, nullptr, WM_CLOSE, WM_CLOSE, PM_REMOVE) && !PutBackQuit(message))
+        StopToClose(message.hwnd);
     while (::PeekMessage(&message, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE)) {
+        if (PutBackQuit(message))
+            break;
         if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE)
             m_stopped = true;
     }
+}
+
+void CLongWork::StopToClose(HWND window) {
+    m_stopped = true;
+    m_closes = window;
 }
 
 void CLongWork::End() {
@@ -134,9 +142,11 @@ void CLongWork::End() {
         LookAtInput();
         DestroyWindow();
         MSG message;
-        while (::PeekMessage(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE)) {
+        while (::PeekMessage(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE) && !PutBackQuit(message)) {
         }
     }
+    if (const HWND closes = std::exchange(m_closes, nullptr))
+        ::PostMessage(closes, WM_CLOSE, 0, 0);
     m_stopped = false; // short work asks Step without a beginning, and is not what was stopped
 }
 

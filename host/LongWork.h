@@ -17,6 +17,8 @@ public:
     // The same, of work whose extent is known.
     bool StepTo(std::uint64_t done, std::uint64_t all);
     void End();
+    // Stops the work, and closes the window when it has ended.
+    void StopToClose(HWND window);
     bool IsAtWork() const { return m_begun != 0; }
 
 protected:
@@ -40,4 +42,5 @@ private:
     std::uint64_t m_all = 0; // 0: not known
     CString m_text;
     bool m_stopped = false;
+    HWND m_closes = nullptr; // the window that is closed after the work
 };

@@ -5,11 +5,14 @@
 #include "host/OptionsDlg.h"
 #include "host/Resource.h"
 
+#include <vector>
+
 IMPLEMENT_DYNAMIC(CMainFrame, CMDIFrameWnd)
 
 BEGIN_MESSAGE_MAP(CMainFrame, CMDIFrameWnd)
     ON_WM_CREATE()
     ON_WM_CLOSE()
+    ON_WM_QUERYENDSESSION()
     ON_WM_DROPFILES()
     ON_COMMAND(ID_VIEW_OPTIONS, OnViewOptions)
     ON_UPDATE_COMMAND_UI_RANGE(ID_PANE_RECORD, ID_PANE_FILTER, OnUpdateEmptyPane)
@@ -63,8 +66,23 @@ bool CMainFrame::CloseTables() {
     return true;
 }
 
+// The session ends without any of its windows being closed, so that nothing more is saved then than the user wants now.
+BOOL CMainFrame::OnQueryEndSession() {
+    if (!GetHostApp()->MayClose(this))
+        return FALSE;
+    std::vector<HWND> tables;
+    for (HWND child = ::GetWindow(m_hWndMDIClient, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+        tables.push_back(child);
+    for (const HWND table : tables) {
+        auto *child = DYNAMIC_DOWNCAST(CChildFrame, CWnd::FromHandlePermanent(table));
+        if (child != nullptr && !child->SaveOrDiscard())
+            return FALSE;
+    }
+    return TRUE;
+}
+
 void CMainFrame::OnClose() {
-    if (!CloseTables())
+    if (!GetHostApp()->MayClose(this) || !CloseTables())
         return;
     SavePlacement();
     AfxGetApp()->SaveStdProfileSettings();

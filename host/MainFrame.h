@@ -22,6 +22,7 @@ protected:
     DECLARE_MESSAGE_MAP()
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnClose();
+    afx_msg BOOL OnQueryEndSession();
     afx_msg void OnDropFiles(HDROP drop);
     afx_msg void OnViewOptions();
     afx_msg void OnUpdateEmptyPane(CCmdUI *command);

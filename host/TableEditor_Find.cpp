@@ -17,11 +17,14 @@ bool CTableEditor::SearchesBlock(const CFindReplaceData &data) {
     return false;
 }
 
-LRESULT CTableEditor::OnFindNext(WPARAM data, LPARAM unused) {
-    if (!SearchesBlock(*reinterpret_cast<const CFindReplaceData *>(data)))
-        return COrvaneEditor::OnFindNext(data, unused);
+LRESULT CTableEditor::OnFindNext(WPARAM wParam, LPARAM unused) {
+    const CFindReplaceData *data = CFindReplaceData::FromMessage(wParam);
+    if (data == nullptr)
+        return 0;
+    if (!SearchesBlock(*data))
+        return COrvaneEditor::OnFindNext(wParam, unused);
     if (!RunInMemory([&] {
-            m_FindData = *reinterpret_cast<const CFindReplaceData *>(data);
+            m_FindData = *data;
             GoOnInBlock();
         }))
         ReportOutOfMemory();

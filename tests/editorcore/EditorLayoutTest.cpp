@@ -120,4 +120,15 @@ TEST_F(EditorLayoutTest, ColourSetsComeAndGoByName) {
     EXPECT_EQ(-1, m_layout.GetColourSet("Name").y);
 }
 
+TEST_F(EditorLayoutTest, AWorkingCopyIsTakenAndPutBackAndAForgottenFileLeavesNone) {
+    Show({3, 1});
+    const CTableInfo kept = m_layout.GetWorkingCopy();
+    m_layout.SetLastXParmsSet("set");
+    m_layout.ForgetFile();
+    EXPECT_EQ("", Shown() + Positions());
+    EXPECT_STREQ("", m_layout.GetLastXParmsSet());
+    m_layout.SetWorkingCopy(kept);
+    EXPECT_EQ("3 1", Shown());
+}
+
 } // namespace

@@ -4,6 +4,7 @@
 #include "editorcore/QuietAppInterface.h"
 #include "grid/UGMem.h"
 
+#include <functional>
 #include <utility>
 
 namespace {
@@ -486,6 +487,52 @@ TEST_F(EditorLoadTest, TablesOfOneFileDoNotGoIntoTheLayoutOfTheNext) {
     ASSERT_TRUE(other.LoadData(alone.c_str(), "TWO", kEditNormal, ""));
     other.CloseDataSource(false);
     EXPECT_EQ(Content(PathOf("cdat.@layout")), Content(PathOf("bdat.@layout")));
+}
+
+// --- A close that is asked for again while the source asks
+
+class AskingSource : public RecordingSource {
+public:
+    using RecordingSource::RecordingSource;
+    int Close(bool force) override {
+        if (m_onClose)
+            m_onClose();
+        return RecordingSource::Close(force);
+    }
+    std::function<void()> m_onClose;
+};
+
+TEST_F(EditorLoadTest, ACloseWithinACloseIsRefusedAndTheFirstOneGoesOn) {
+    TestEditor &editor = Make();
+    auto *source = new AskingSource(&m_log, 2, 3, "src");
+    m_service.m_sources.push_back(source);
+    ASSERT_TRUE(editor.LoadData("p", nullptr, kEditNormal, ""));
+    Forget();
+    source->m_onClose = [&] { EXPECT_FALSE(editor.CloseDataSource(true)); };
+    EXPECT_TRUE(editor.CloseDataSource(false));
+    EXPECT_EQ("src.Close(0) src.delete", m_log.Take());
+    EXPECT_TRUE(editor.CloseDataSource(false));
+}
+
+TEST_F(EditorLoadTest, AnEditorThatIsDestroyedWhileItClosesLeavesTheSourceToTheClose) {
+    TestEditor &editor = Make();
+    auto *source = new AskingSource(&m_log, 2, 3, "src");
+    m_service.m_sources.push_back(source);
+    ASSERT_TRUE(editor.LoadData("p", nullptr, kEditNormal, ""));
+    Forget();
+    source->m_onClose = [&] { m_editors.clear(); };
+    EXPECT_TRUE(editor.CloseDataSource(false));
+    EXPECT_EQ("src.Close(0) src.delete", m_log.Take());
+}
+
+TEST_F(EditorLoadTest, TheMessageThatEndsTheProgramIsInTheQueueAfterALoad) {
+    TestEditor &editor = Make();
+    Source(2, 3);
+    ::PostQuitMessage(7);
+    EXPECT_TRUE(editor.LoadData("p", nullptr, kEditNormal, ""));
+    MSG message{};
+    ASSERT_TRUE(::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(7u, message.wParam);
 }
 
 } // namespace

@@ -292,4 +292,20 @@ TEST_F(EditorOpenBoxTest, TheSameTextTellsNoTitle) {
     EXPECT_EQ("src.SetCell(0,0,0.0)", m_log.Take());
 }
 
+TEST_F(EditorOpenBoxTest, SettlingWritesWhatWasTypedOnceAndAnUntouchedBoxNotAtAll) {
+    TestEditor &editor = Open(2, 2);
+    editor.SettleEdit();
+    editor.StartEdit();
+    Forget();
+    editor.SettleEdit();
+    EXPECT_EQ("closed", Box(editor));
+    EXPECT_EQ("", m_log.Take());
+    Type(editor, "typed");
+    Forget();
+    editor.SettleEdit();
+    EXPECT_EQ("closed", Box(editor));
+    EXPECT_EQ("src.StartTransaction() src.EndTransaction() Title(table,null) src.SetCell(0,0,typed) Title(table,null)",
+              m_log.Take());
+}
+
 } // namespace

@@ -553,4 +553,16 @@ TEST_F(CtrlEditTest, DestroyingTheControlEndsTheEdit) {
     EXPECT_EQ(nullptr, m_grid.GetEditControl());
 }
 
+TEST_F(CtrlEditTest, ACancelledEditWritesNothingAndGivesTheCellsTheFocus) {
+    Fill(3, 5);
+    m_grid.StartEdit();
+    Type("new");
+    m_grid.Take();
+    m_grid.CancelEdit();
+    EXPECT_EQ("closed", EditText());
+    EXPECT_EQ("", m_grid.Take());
+    EXPECT_EQ(m_grid.Cells(), ::GetFocus());
+    m_grid.CancelEdit(); // with none there is nothing to do
+}
+
 } // namespace

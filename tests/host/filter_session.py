@@ -11,8 +11,6 @@ FILTER = 6  # pane of the status bar
 NAME, EXPRESSION, MISTAKE, LIST = 1151, 1152, 1154, 1155
 OK, FILTERED_ONLY = 1, 1200
 LAST_NAME = 1  # column
-# Tried in so many ways on each cell that the library gives up on it, after a while.
-ENDLESS = r"(\w|\w\w)*(\w|\w\w)*(\w|\w\w)*(\w|\w\w)*(\w|\w\w)*(?=~)"
 # Takes some tenths of a millisecond for each record.
 SLOW = "length(hex(zeroblob(50000+length(LETTERS))))>9"
 COUNTED = re.compile(r"(\d+) of the first \1 records pass\.$")
@@ -59,12 +57,6 @@ class Filter(sessions.Session):
         self.host.await_end()
         self.host = self.start(path)
         self.host.await_table("many.dbf")
-
-    def search_endlessly(self):
-        self.host.keys("ctrl+f")
-        self.host.await_title("Find")
-        self.host.type(ENDLESS)
-        self.host.keys("alt+x", "Return")
 
     def begin_first_filter(self):
         self.host.keys("F7")

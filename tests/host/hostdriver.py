@@ -111,6 +111,10 @@ class Host:
             self.probe = Probe(self.probe_program, self.env)
         return self.probe.look(at)
 
+    def tell(self, how, window, message, wparam=0, lparam=0):
+        """Sends a message as another program does: posted, sent without waiting, or asked for its answer."""
+        return self.look(f"{how} {window} {message} {wparam} {lparam}")
+
     def find(self, **wanted):
         """The first visible window with these properties (class as `kind`), or None."""
         if "kind" in wanted:

