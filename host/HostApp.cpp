@@ -74,7 +74,7 @@ CString CHostApp::CommandLineFile() const {
 }
 
 void CHostApp::OnFileOpen() {
-    CFileDialog dialog(TRUE, "dbf", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, kTableFilter, m_pMainWnd);
+    CFileDialog dialog(TRUE, "dbf", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST | OFN_NOCHANGEDIR, kTableFilter, m_pMainWnd);
     if (dialog.DoModal() == IDOK)
         OpenTable(dialog.GetPathName());
 }

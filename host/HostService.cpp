@@ -105,7 +105,7 @@ void CHostService::ShowFileInformation(CUGDataSource *source) {
 }
 
 bool CHostService::PromptSaveAs(CString &name, bool *useFiltered, bool filterAttached) {
-    CFileDialog dialog(FALSE, "dbf", name, OFN_HIDEREADONLY | OFN_PATHMUSTEXIST, kTableFilter, AfxGetMainWnd());
+    CFileDialog dialog(FALSE, "dbf", name, OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | OFN_NOCHANGEDIR, kTableFilter, AfxGetMainWnd());
     if (filterAttached)
         dialog.AddCheckButton(IDC_FILTERED_ONLY, "Filtered &records only", *useFiltered);
     if (dialog.DoModal() != IDOK)

@@ -135,9 +135,14 @@ int CDbfDataSource::Open(const char *name, const char *options) {
 }
 
 void CDbfDataSource::TellWarnings() const {
+    constexpr std::size_t kMostTold = 10; // a message must fit on the screen
+    const auto &warnings = m_table->openWarnings();
     std::string odd;
-    for (const std::string &warning : m_table->openWarnings()) {
-        odd += "\n" + warning;
+    for (std::size_t i = 0; i < warnings.size() && i < kMostTold; ++i) {
+        odd += "\n" + warnings[i];
+    }
+    if (warnings.size() > kMostTold) {
+        odd += "\nand " + std::to_string(warnings.size() - kMostTold) + " more";
     }
     if (!odd.empty()) {
         Tell("\"" + m_table->path() + "\":\n" + odd);

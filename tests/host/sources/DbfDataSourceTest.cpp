@@ -2,6 +2,7 @@
 #include "AllocationFailure.h"
 #include "DbfBytes.h"
 #include "DbfDataSource.h"
+#include "DbfTable.h"
 #include "filter/FilterList.h"
 #include "grid/UGDefine.h"
 
@@ -182,6 +183,14 @@ TEST_F(DbfDataSource, TellsWhatIsOddAboutTable) {
     write(people().substr(0, 190));
     EXPECT_EQ(source.Open(path.c_str(), ""), 0);
     EXPECT_EQ(told, "\"" + path + "\":\n\nThe header speaks of 3 records, but only 1 are whole in the file|");
+}
+
+TEST_F(DbfDataSource, TellsTenThingsThatAreOddAndHowManyMore) {
+    write(DbfTableBytes(13, 1, 5, std::string(13, 'Z')));
+    EXPECT_EQ(source.Open(path.c_str(), ""), 0);
+    EXPECT_NE(told.find("Field 10 is of the unknown type Z"), std::string::npos) << told;
+    EXPECT_EQ(told.find("Field 11"), std::string::npos) << told;
+    EXPECT_NE(told.find("\nand 3 more|"), std::string::npos) << told;
 }
 
 TEST_F(DbfDataSource, OpensForViewing) {
