@@ -182,4 +182,49 @@ TEST_F(DataEditorAppearanceTest, ColourSetsAreKeptForTheHost) {
     EXPECT_EQ(-1, editor.GetColourSet("F1").x);
 }
 
+TEST_F(DataEditorAppearanceTest, TheBorderFollowsTheFlagsAndNoOptionIsWritten) {
+    TestDataEditor &editor = OpenEditor(2, 2);
+    for (int lines = 0; lines < 4; ++lines) {
+        const bool horizontal = (lines & 1) != 0, vertical = (lines & 2) != 0;
+        editor.SetLines(horizontal, vertical);
+        m_source->m_rowsRead.clear();
+        editor.UpdateBorders();
+        ::UpdateWindow(editor.Cells());
+        EXPECT_EQ((horizontal ? 8 : 0) + (vertical ? 4 : 0), Border(editor));
+        EXPECT_FALSE(m_source->m_rowsRead.empty()); // the cells are painted again
+        EXPECT_EQ(vertical, editor.IsShowingVerticleLines());
+        EXPECT_EQ(horizontal, editor.IsShowingHorizLines());
+        EXPECT_TRUE(m_service.m_options.m_horizontal && m_service.m_options.m_vertical);
+    }
+}
+
+TEST_F(DataEditorAppearanceTest, EachDirectionOfLinesIsAFlagOfItsOwn) {
+    m_service.m_options.m_horizontal = false;
+    TestDataEditor &editor = OpenEditor(2, 2);
+    EXPECT_TRUE(editor.IsShowingVerticleLines());
+    EXPECT_FALSE(editor.IsShowingHorizLines());
+    editor.SetIsShowingVerticleLines(false);
+    EXPECT_FALSE(editor.IsShowingVerticleLines());
+    editor.SetIsShowingHorizLines(true);
+    EXPECT_FALSE(editor.IsShowingVerticleLines());
+    EXPECT_EQ(8, Border(editor));
+}
+
+TEST_F(DataEditorAppearanceTest, ColourSetsGoToEveryFieldOfTheirNameIgnoringCase) {
+    TestDataEditor &editor = OpenEditor(4, 2);
+    m_source->m_fields = {"Name", "OTHER", "NAME", "last"};
+    editor.AttachColourSet("name", CPoint(3, 4));
+    editor.AttachColourSet("Last", CPoint(5, 6));
+    editor.AttachColourSet("nobody", CPoint(7, 8));
+    CArray<CPoint, CPoint &> sets;
+    CPoint old(9, 9);
+    for (int i = 0; i < 6; ++i)
+        sets.Add(old);
+    editor.Layout()->GetColourSetsByField(m_source, sets);
+    std::string all;
+    for (int field = 0; field < sets.GetSize(); ++field)
+        all += std::to_string(sets.GetAt(field).x) + "," + std::to_string(sets.GetAt(field).y) + " ";
+    EXPECT_EQ("3,4 -1,-1 3,4 5,6 ", all);
+}
+
 } // namespace

@@ -223,4 +223,85 @@ TEST_F(DataEditorFindTest, DataIsCopiedWhole) {
     EXPECT_EQ(kSearchAll, copy.GetDirection());
 }
 
+// --- The operations under the command
+
+TEST_F(DataEditorFindTest, ASearchOfAColumnGoesFromTheRowOfTheCurrentCellWhateverItsColumn) {
+    TestDataEditor &editor = OpenWithHits({{0, 1}, {2, 0}, {2, 1}, {2, 3}});
+    const auto search = [&](int col, const char *find, int direction, bool matchCase = true) {
+        editor.DoColumnSearch(col, find, "hit", direction, matchCase);
+        return editor.At() + " " + TestApp().TakeBoxes();
+    };
+    editor.GotoCell(0, 1);
+    EXPECT_EQ("2,3 ", search(2, "hit", kSearchDown));
+    EXPECT_EQ("2,1 ", search(2, "h[i]t", kSearchUp));
+    EXPECT_EQ("2,1 " + kNone, search(2, "hi", kSearchAll)); // patterns fit whole texts
+    EXPECT_EQ("2,1 " + kNone, search(2, "HIT", kSearchDown));
+    EXPECT_EQ("2,3 ", search(2, "HIT", kSearchDown, false));
+    EXPECT_EQ("2,0 ", search(2, "hit", kSearchAll)); // by the wrap
+    EXPECT_EQ("0,1 ", search(-1, "hit", kSearchUp)); // column -1 is all fields
+    EXPECT_FALSE(editor.CanFindAgain());
+    EXPECT_EQ("", m_log.Take()); // the wait cursor is the command's
+}
+
+TEST_F(DataEditorFindTest, ASearchOfTheSelectionGoesColumnByColumn) {
+    TestDataEditor &editor = OpenWithHits({{1, 3}, {2, 1}});
+    const auto search = [&](const char *find, bool matchCase) {
+        editor.DoSelectedCellsSearch(find, "hit", matchCase);
+        return editor.At() + " " + TestApp().TakeBoxes();
+    };
+    editor.GotoCell(2, 1);
+    editor.ClearSelections();
+    editor.SelectRange(1, 0, 2, 3);
+    EXPECT_EQ("2,1 " + kNone, search("HIT", true));
+    EXPECT_TRUE(editor.IsInMultipleSelection());
+    EXPECT_EQ("1,3 ", search("HIT", false)); // before the one in the next column
+    EXPECT_FALSE(editor.IsInMultipleSelection());
+    editor.ClearSelections();
+    editor.SelectRange(1, 0, 2, 3);
+    editor.RequestAbort();
+    EXPECT_EQ("1,3 ", search("hit", true));
+    EXPECT_TRUE(editor.IsInMultipleSelection());
+}
+
+TEST_F(DataEditorFindTest, OneCellMatchesByItsWholeTextWithinTheFilter) {
+    TestDataEditor &editor = OpenFiltered(2, 3, {1, 3});
+    m_source->m_rows[0][1] = m_source->m_rows[1][1] = "hit";
+    // What is answered, and whether it matches.
+    const auto test = [&](int col, long row, const char *find, bool matchCase) {
+        bool match = row != 0; // both ways about
+        const bool done = editor.IsMatchWithCellText(col, row, find, matchCase, &match);
+        return std::string(done ? "done" : "failed") + (match ? " match" : "") + TestApp().TakeBoxes();
+    };
+    EXPECT_EQ("done match", test(1, 0, "h.t", true));
+    EXPECT_EQ("done", test(1, 0, "hi", true));
+    EXPECT_EQ("done", test(1, 0, "HIT", true));
+    EXPECT_EQ("done match", test(1, 0, "HIT", false));
+    EXPECT_EQ("done", test(1, 1, "hit", true)); // left out by the filter
+    EXPECT_EQ("done", test(1, 2, "hit", true));
+    EXPECT_EQ("done", test(1, 0, "hit(", true));
+    m_source->m_results["GetCell"] = GRID_ERROR;
+    EXPECT_EQ("failedCould not get cell!|16", test(1, 2, "hit", true));
+    EXPECT_EQ("done", test(1, 1, "hit", true)); // not even looked at
+}
+
+TEST_F(DataEditorFindTest, AMessageIsFollowedOnlyWithTheAddressOfALiveSearch) {
+    TestDataEditor &editor = OpenEditor(2, 3);
+    WPARAM gone;
+    {
+        CFindReplaceData data;
+        data.SetData("0.2", "x", true, false, kSearchDown, Search::kAnywhere, false);
+        gone = reinterpret_cast<WPARAM>(&data);
+        EXPECT_EQ(&data, CFindReplaceData::FromMessage(gone));
+        editor.SendMessage(kMsgFindNext, gone, 0);
+        EXPECT_EQ("0,2", editor.At());
+    }
+    editor.GotoCell(0, 0);
+    for (const WPARAM address : {gone, WPARAM(0), WPARAM(1)}) {
+        EXPECT_EQ(nullptr, CFindReplaceData::FromMessage(address));
+        editor.SendMessage(kMsgFindNext, address, 0);
+        editor.SendMessage(kMsgReplaceNext, address, 0);
+    }
+    EXPECT_EQ("0,0", editor.At());
+}
+
 } // namespace

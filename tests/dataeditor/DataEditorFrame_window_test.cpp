@@ -341,4 +341,16 @@ TEST_F(DataEditorFrameTest, TheFocusIsSetByMessage) {
     EXPECT_EQ(editor.Cells(), ::GetFocus());
 }
 
+// Posted: a row is painted again when what goes on is over.
+TEST_F(DataEditorFrameTest, ARowToRefreshIsPostedToTheEditorItself) {
+    TestDataEditor &editor = OpenEditor(2, 5);
+    m_source->m_rowsRead.clear();
+    editor.RefreshRow(3);
+    ::UpdateWindow(editor.Cells());
+    EXPECT_TRUE(m_source->m_rowsRead.empty());
+    EXPECT_EQ(3, RowToRefresh(editor));
+    EXPECT_EQ(-1, RowToRefresh(editor));
+    EXPECT_EQ("", m_host.TakeMessages());
+}
+
 } // namespace

@@ -319,4 +319,39 @@ TEST_F(DataEditorReplaceTest, ReplacingLeavesFindAgainAlone) {
     EXPECT_FALSE(editor.CanFindAgain());
 }
 
+// Each answer of the question, as the caller gets it, and what the cell holds then.
+TEST_F(DataEditorReplaceTest, TheTreatmentOfOneCellAnswersWhatTheUserChose) {
+    struct Outcome {
+        int button;
+        const char *expected; // cell, answer, matched, replaced, count
+    };
+    for (const Outcome &outcome : {Outcome{kYes, "cow 0 1 1 1"}, Outcome{kNo, "cat 1 1 0 0"},
+                                   Outcome{IDCANCEL, "cat 2 1 0 0"}, Outcome{kAll, "cow 3 1 1 1"}}) {
+        TestDataEditor &editor = OpenColumn({"dog", "cat"});
+        WithDialog act([&](HWND dialog) { ::SendMessageA(dialog, WM_COMMAND, outcome.button, 0); });
+        int answer = -1, count = 0;
+        bool matched = false, replaced = false;
+        EXPECT_TRUE(editor.ReplaceCellStringIfMatch(0, 1, "c(at)", "cow", true, false, false, &answer, &matched,
+                                                    &replaced, &count));
+        EXPECT_EQ(outcome.expected, m_source->Text(0, 1) + " " + std::to_string(answer) + " " +
+                                        std::to_string(matched) + " " + std::to_string(replaced) + " " +
+                                        std::to_string(count));
+        EXPECT_EQ("0,1", editor.At()); // the user sees what is asked about
+    }
+}
+
+TEST_F(DataEditorReplaceTest, ACellThatDoesNotMatchOrThatTheFilterLeavesOutIsNotAskedAbout) {
+    TestDataEditor &editor = OpenFiltered(1, 2, {1});
+    m_source->m_rows[1][0] = "cat";
+    for (long row : {0L, 1L}) {
+        int answer = 0, count = 0;
+        bool matched = true, replaced = true;
+        EXPECT_TRUE(editor.ReplaceCellStringIfMatch(0, row, "cat", "cow", true, false, true, &answer, &matched,
+                                                    &replaced, &count));
+        EXPECT_EQ("3 000", std::to_string(answer) + " " + std::to_string(matched) + std::to_string(replaced) +
+                               std::to_string(count));
+    }
+    EXPECT_EQ("0.0,cat", Column());
+}
+
 } // namespace

@@ -16,6 +16,11 @@ public:
     int Locked() const { return m_nLockedCols; }
     UINT_PTR Timer() const { return m_nPickListTimer; }
     void RequestAbort() { m_bAbortRequested = true; }
+    // The flags alone, as if another way had set them.
+    void SetLines(bool horizontal, bool vertical) {
+        m_bShowHorizLines = horizontal;
+        m_bShowVertLines = vertical;
+    }
     // "cur=(c,r) top"
     std::string At() { return std::to_string(GetCurrentCol()) + "," + std::to_string(GetCurrentRow()); }
     int OnCanMove(int, long, int, long) override { return m_canMove; }

@@ -329,4 +329,48 @@ TEST_F(EditorColumnsTest, ASelectionGoesWithTheColumnsThatTheHostsDialogHides) {
     EXPECT_EQ("0,1,2,3 of 0,1,2,3", editor.Order());
 }
 
+TEST_F(EditorColumnsTest, EveryFieldIsNamedInItsPositionWithWhetherItIsShown) {
+    TestEditor &editor = Open(4, 2);
+    CUIntArray fields;
+    Fill(fields, {3, 0, 2});
+    editor.ReOrderCols(fields);
+    CStringArray names;
+    CArray<bool, bool> shown;
+    names.Add("old");
+    shown.Add(true);
+    const auto info = [&](TestEditor &of) {
+        of.GetVirtualColInfo(names, shown);
+        std::string all;
+        for (int i = 0; i < names.GetSize() && i < shown.GetSize(); ++i)
+            all += std::string(names.GetAt(i)) + (shown.GetAt(i) ? "+ " : "- ");
+        return all + std::to_string(names.GetSize()) + " " + std::to_string(shown.GetSize());
+    };
+    EXPECT_EQ("F3+ F1- F0+ F2+ 4 4", info(editor));
+    EXPECT_EQ("0 0", info(Make())); // of no source
+}
+
+TEST_F(EditorColumnsTest, TheOrderPairShowsEachOfItsOrdersInGridAndLayout) {
+    TestEditor &editor = Open(4, 2);
+    CEditorCore::ReorderCommand command(&editor, &CEditorCore::ExecOrderCols, &CEditorCore::UnExecOrderCols);
+    Fill(command.m_Before, {0, 2});
+    Fill(command.m_After, {3, 1, 0});
+    EXPECT_TRUE(editor.ExecOrderCols(&command));
+    EXPECT_EQ("3,1,0 of 3,1,2,0", editor.Order());
+    EXPECT_TRUE(editor.UnExecOrderCols(&command));
+    EXPECT_EQ("0,2 of 3,1,0,2", editor.Order());
+    EXPECT_FALSE(editor.CanUndo()); // neither is entered in the history
+}
+
+TEST_F(EditorColumnsTest, TheHidingPairTakesColumnsOutAndPutsTheirFieldsBackThere) {
+    TestEditor &editor = Open(5, 2);
+    CEditorCore::ReorderCommand command(&editor, &CEditorCore::ExecHideCols, &CEditorCore::UnExecHideCols);
+    Fill(command.m_Before, {1, 3});
+    Fill(command.m_After, {1, 3});
+    EXPECT_TRUE(editor.ExecHideCols(&command));
+    EXPECT_EQ("0,2,4 of 0,1,2,3,4", editor.Order());
+    EXPECT_TRUE(editor.UnExecHideCols(&command));
+    EXPECT_EQ("0,1,2,3,4 of 0,1,2,3,4", editor.Order());
+    EXPECT_FALSE(editor.CanUndo());
+}
+
 } // namespace

@@ -263,11 +263,32 @@ TEST_F(EditorEditingTest, EnterInTheLastRecordInSightIsAnUndoStepOfItsOwnAndGoes
     editor.GotoCell(1, 39);
     Type(editor, "x");
     SendKey(editor.Edit(), VK_RETURN); // the view scrolls to the record that is appended
-    EXPECT_EQ("src.AppendRow() Title(table,null) src.StartTransaction() src.EndTransaction() Title(table,null) "
-              "src.SetCell(1,39,x) Title(table,null)",
-              m_log.Take().substr(0, 133));
+    const std::string step = "src.AppendRow() Title(table,null) src.StartTransaction() src.EndTransaction() "
+                             "Title(table,null) src.SetCell(1,39,x) Title(table,null)";
+    EXPECT_EQ(step, m_log.Take().substr(0, step.size()));
     EXPECT_EQ("cur=(1,40) size=2x41", editor.State());
     EXPECT_EQ("", Box(editor));
+}
+
+// The number that the translation gives is taken for a grid column in turn.
+TEST_F(EditorEditingTest, TheTextOfASourcesCellIsThatOfTheColumnThatTheTranslationNames) {
+    TestEditor &editor = Open(3, 2);
+    CString text;
+    EXPECT_TRUE(editor.GetDataSrcCellText(1, 1, &text));
+    EXPECT_STREQ("1.1", text);
+    CUIntArray fields;
+    for (UINT field : {2u, 0u, 1u})
+        fields.Add(field);
+    editor.ReOrderCols(fields);
+    EXPECT_TRUE(editor.GetDataSrcCellText(0, 1, &text)); // column 0 shows field 2, and column 2 field 1
+    EXPECT_STREQ("1.1", text);
+    editor.GotoCell(2, 1);
+    Type(editor, "typed");
+    EXPECT_TRUE(editor.GetDataSrcCellText(0, 1, &text));
+    EXPECT_STREQ("typed", text);
+    EXPECT_FALSE(editor.GetDataSrcCellText(0, 5, &text));
+    m_source->m_rows[0][1] = "";
+    EXPECT_FALSE(editor.GetDataSrcCellText(0, 0, &text));
 }
 
 } // namespace

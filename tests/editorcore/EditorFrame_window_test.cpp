@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <tuple>
 
 namespace {
 
@@ -291,6 +292,72 @@ TEST(ResourceScopeTest, TheLibrarysResourcesHoldInsideAndTheHostsAfterwards) {
         EXPECT_EQ(hosts, state->m_hCurrentResourceHandle);
     }
     EXPECT_EQ(hosts, state->m_hCurrentResourceHandle);
+}
+
+TEST_F(EditorFrameTest, TheCurrentCellsRectangleIsWhereTheCellStandsOnTheScreen) {
+    TestEditor &editor = Open(3, 50);
+    const auto onScreen = [&](int col, long row) {
+        RECT cell;
+        editor.GetCellRect(col, row, &cell);
+        ::MapWindowPoints(editor.Cells(), nullptr, reinterpret_cast<POINT *>(&cell), 2);
+        return CRect(cell);
+    };
+    CRect rect;
+    for (const auto &[col, row, top] : {std::tuple(0, 0L, 0L), std::tuple(2, 3L, 0L), std::tuple(1, 40L, 38L)}) {
+        editor.GotoCell(col, row);
+        editor.SetTopRow(top);
+        editor.GetCurCellRect(&rect);
+        EXPECT_TRUE(rect == onScreen(col, row)) << col << "," << row << " at " << rect.left << "," << rect.top;
+        EXPECT_LT(0, rect.Width() * rect.Height());
+    }
+}
+
+TEST_F(EditorFrameTest, AReorderGivesTheTypesBackToTheirFieldsAndItsNotificationDoesNothing) {
+    TestEditor &editor = Open(3, 2);
+    editor.SetCellType("F1", 7);
+    const auto types = [&] {
+        std::string all;
+        for (int col = 0; col < 3; ++col) {
+            CUGCell cell;
+            editor.GetColDefault(col, &cell);
+            all += std::to_string(cell.GetCellType()) + " ";
+        }
+        return all;
+    };
+    const std::string before = types();
+    CUGCell cell;
+    for (int col = 0; col < 3; ++col) {
+        editor.GetColDefault(col, &cell);
+        cell.SetCellType(3 + col);
+        editor.SetColDefault(col, &cell);
+    }
+    Forget();
+    editor.OnColReorder();
+    EXPECT_EQ("3 4 5 ", types());
+    EXPECT_EQ("", m_log.Take() + m_host.TakeMessages());
+    editor.OnReorderCols();
+    EXPECT_EQ(before, types());
+    EXPECT_EQ("0,1,2 of 0,1,2", editor.Order());
+}
+
+TEST(ResourceScopeTest, TheResourcesThatWereNamedHoldAndWithoutAnyTheModulesOwn) {
+    AFX_MODULE_STATE *state = AfxGetModuleState();
+    const HINSTANCE hosts = state->m_hCurrentResourceHandle, library = ::GetModuleHandleA("orvane.dll");
+    const HINSTANCE other = ::GetModuleHandleA("kernel32.dll");
+    const auto inside = [&] {
+        CResourceScope scope;
+        return state->m_hCurrentResourceHandle;
+    };
+    CResourceScope::SetLibraryResources(other);
+    EXPECT_EQ(other, inside());
+    EXPECT_EQ(hosts, state->m_hCurrentResourceHandle);
+    state->m_hCurrentResourceHandle = other;
+    CResourceScope::SetLibraryResources(nullptr);
+    EXPECT_EQ(state->m_hCurrentInstanceHandle, inside());
+    EXPECT_EQ(other, state->m_hCurrentResourceHandle);
+    state->m_hCurrentResourceHandle = hosts;
+    CResourceScope::SetLibraryResources(library);
+    EXPECT_EQ(library, inside());
 }
 
 } // namespace

@@ -113,4 +113,19 @@ TEST_F(EditorHistoryTest, ALoadEmptiesTheHistoryAndASaveDoesNot) {
     EXPECT_FALSE(editor.CanUndo());
 }
 
+TEST_F(EditorHistoryTest, CellsChangedByAnotherWayTellTheTitleAndEndTheBoxesUndoneState) {
+    TestEditor &editor = Open(2, 2);
+    TypeInBox(editor);
+    editor.Undo();
+    EXPECT_TRUE(editor.CanRedo());
+    EXPECT_FALSE(editor.CanUndo());
+    Forget();
+    editor.OnEditNotify();
+    EXPECT_EQ("Title(table,null)", m_log.Take());
+    EXPECT_EQ("1049(1,0)", m_host.TakeMessages());
+    EXPECT_FALSE(editor.CanRedo());
+    EXPECT_TRUE(editor.CanUndo());
+    EXPECT_NE(nullptr, editor.Edit());
+}
+
 } // namespace

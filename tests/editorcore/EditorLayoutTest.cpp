@@ -39,6 +39,38 @@ protected:
         m_layout.GetColWidths(array);
         return Numbers(array);
     }
+    // Row height, top heading, side heading.
+    std::string Sizes() {
+        const CTableInfo &info = m_layout.GetWorkingCopy();
+        return std::to_string(info.m_nRowHeight) + " " + std::to_string(info.m_nTopHeadingHeight) + " " +
+               std::to_string(info.m_nSideHeadingWidth);
+    }
+    // What is shown, all positions, the sizes, the first number of the set of "Name", the frozen columns.
+    std::string State() {
+        return Shown() + "|" + Positions() + "|" + Sizes() + "|" +
+               std::to_string(m_layout.GetColourSet("Name").x) + "|" + std::to_string(m_layout.GetFrozenCols());
+    }
+    void Read(const char *hex) {
+        MemoryFile file(Bytes(hex));
+        CArchive archive(&file, CArchive::load);
+        m_layout.Serialize(archive);
+    }
+    std::string Written() {
+        MemoryFile file;
+        CArchive archive(&file, CArchive::store);
+        m_layout.Serialize(archive);
+        archive.Close();
+        return file.m_bytes;
+    }
+    // Of a file without a set's name or with one of three letters.
+    int TablesWritten() {
+        const std::string bytes = Written();
+        return bytes.at(4 + 1 + static_cast<size_t>(bytes.at(4)));
+    }
+    // A version 3 file of the table without a name, one field of 100 pixels, and of the table "T" without any.
+    static constexpr const char *kTwoNames =
+        "03 00 00 00  03 53 65 74  02 00 00 00  00  01 00  01 00 00 00  01 00 00 00  01 00 64 00  12 00 14 00 32 00  "
+        "00 00  01 54  00 00  00 00  00 00  00 00  12 00 14 00 32 00  00 00";
     CEditorLayout m_layout{nullptr};
 };
 
@@ -120,15 +152,60 @@ TEST_F(EditorLayoutTest, ColourSetsComeAndGoByName) {
     EXPECT_EQ(-1, m_layout.GetColourSet("Name").y);
 }
 
-TEST_F(EditorLayoutTest, AWorkingCopyIsTakenAndPutBackAndAForgottenFileLeavesNone) {
-    Show({3, 1});
-    const CTableInfo kept = m_layout.GetWorkingCopy();
-    m_layout.SetLastXParmsSet("set");
+TEST_F(EditorLayoutTest, TheColumnsShownAreCounted) {
+    EXPECT_EQ(0, m_layout.CountDisplayCols());
+    Show({4, 0, 2});
+    EXPECT_EQ(3, m_layout.CountDisplayCols());
+}
+
+TEST_F(EditorLayoutTest, EachHeadingKeepsItsOwnSize) {
+    m_layout.SetTopHeadingHeight(33);
+    m_layout.SetSideHeadingWidth(66);
+    m_layout.SetRowHeight(25);
+    EXPECT_EQ("25 33 66", Sizes());
+}
+
+TEST_F(EditorLayoutTest, ATakenWorkingCopyIsPutBackWhole) {
+    Show({4, 0});
+    m_layout.SetColWidth(0, 70);
+    m_layout.SetTopHeadingHeight(33);
+    m_layout.AttachColourSet("Name", CPoint(3, 4));
+    m_layout.SetFrozenCols(2);
+    const CTableInfo taken = m_layout.GetWorkingCopy();
+    m_layout.Reset();
+    EXPECT_EQ("||0 0 0|-1|0", State());
+    m_layout.SetWorkingCopy(taken);
+    EXPECT_EQ("4 0|4 1 2 3 0|0 33 0|3|2", State());
+    EXPECT_EQ("0 0 0 0 70", Widths());
+}
+
+// The file's other tables and the set's name are not the working copy's.
+TEST_F(EditorLayoutTest, AResetEmptiesTheWorkingCopyOfAFoundTableAndNothingElse) {
+    Read(kTwoNames);
+    ASSERT_TRUE(m_layout.IsTableFound());
+    m_layout.Reset();
+    EXPECT_FALSE(m_layout.IsTableFound());
+    EXPECT_EQ("", Shown());
+    EXPECT_EQ("0 0 0", Sizes());
+    EXPECT_STREQ("Set", m_layout.GetLastXParmsSet());
+    EXPECT_EQ(2, TablesWritten());
+}
+
+TEST_F(EditorLayoutTest, AForgottenFileLeavesNothingToTheNextOne) {
+    Read(kTwoNames);
     m_layout.ForgetFile();
-    EXPECT_EQ("", Shown() + Positions());
+    EXPECT_FALSE(m_layout.IsTableFound());
+    EXPECT_EQ("", Shown());
     EXPECT_STREQ("", m_layout.GetLastXParmsSet());
-    m_layout.SetWorkingCopy(kept);
-    EXPECT_EQ("3 1", Shown());
+    EXPECT_EQ(1, TablesWritten()); // that of the working copy
+}
+
+TEST_F(EditorLayoutTest, TheLastSetOfParametersGoesIntoTheFile) {
+    m_layout.SetLastXParmsSet("Mine");
+    EXPECT_STREQ("Mine", m_layout.GetLastXParmsSet());
+    EXPECT_EQ(Bytes("04 00 00 00  04 4d 69 6e 65"), Written().substr(0, 9));
+    m_layout.SetLastXParmsSet("");
+    EXPECT_EQ(Bytes("04 00 00 00  00"), Written().substr(0, 5));
 }
 
 } // namespace

@@ -292,20 +292,31 @@ TEST_F(EditorOpenBoxTest, TheSameTextTellsNoTitle) {
     EXPECT_EQ("src.SetCell(0,0,0.0)", m_log.Take());
 }
 
-TEST_F(EditorOpenBoxTest, SettlingWritesWhatWasTypedOnceAndAnUntouchedBoxNotAtAll) {
+TEST_F(EditorOpenBoxTest, ASettledEditIsWrittenWhereItWasTypedAndGoneWhereItWasNot) {
     TestEditor &editor = Open(2, 2);
+    editor.SettleEdit(); // with none open there is nothing to do
+    EXPECT_EQ("", m_log.Take());
+    Type(editor, "typed");
     editor.SettleEdit();
+    EXPECT_EQ("closed", Box(editor));
+    EXPECT_EQ("typed,1.0/0.1,1.1/", Records(m_source));
+    EXPECT_EQ(editor.Cells(), ::GetFocus());
+    editor.GotoCell(1, 1);
     editor.StartEdit();
     Forget();
     editor.SettleEdit();
     EXPECT_EQ("closed", Box(editor));
     EXPECT_EQ("", m_log.Take());
+}
+
+TEST_F(EditorOpenBoxTest, AnEditThatCannotEndIsSettledUnwritten) {
+    TestEditor &editor = Open(2, 0);
+    m_source->m_results["AppendRow"] = 1;
     Type(editor, "typed");
-    Forget();
     editor.SettleEdit();
+    EXPECT_EQ("Could not add new record to data source!|16", TestApp().TakeBoxes());
     EXPECT_EQ("closed", Box(editor));
-    EXPECT_EQ("src.StartTransaction() src.EndTransaction() Title(table,null) src.SetCell(0,0,typed) Title(table,null)",
-              m_log.Take());
+    EXPECT_EQ("", Records(m_source));
 }
 
 } // namespace

@@ -17,6 +17,12 @@ protected:
     std::string Headings(TestEditor &editor) {
         return std::to_string(editor.GetSH_Width()) + "x" + std::to_string(editor.GetTH_Height());
     }
+    static CPersistUIntArray Fields(std::initializer_list<UINT> fields) {
+        CPersistUIntArray all;
+        for (UINT field : fields)
+            all.Add(field);
+        return all;
+    }
     // Makes all columns as wide.
     void SetWidths(TestEditor &editor, int width) {
         for (int col = 0; col < editor.GetNumberCols(); ++col) {
@@ -219,6 +225,103 @@ TEST_F(EditorSizingTest, ValidatingColumnsAfterTheClickedOneKeepTheirWidths) {
     editor.SelectColumns(0, 2);
     editor.OnTH_DClicked(1);
     EXPECT_EQ(",120", editor.Widths().substr(editor.Widths().rfind(',')));
+}
+
+// --- What the commands of the history do
+
+TEST_F(EditorSizingTest, TheWidthPairSizesTheColumnInGridAndLayout) {
+    TestEditor &editor = Open(3, 3);
+    SetWidths(editor, 80);
+    editor.ReOrderCols(Fields({2, 0})); // column 1 shows field 0
+    CEditorCore::SizingCommand command(1, 40, 90, &editor, &CEditorCore::ExecChangeColWidth,
+                                       &CEditorCore::UnExecChangeColWidth);
+    EXPECT_TRUE(editor.ExecChangeColWidth(&command));
+    EXPECT_EQ("80,90|90,80,80", editor.Widths() + "|" + editor.FieldWidths());
+    EXPECT_TRUE(editor.UnExecChangeColWidth(&command));
+    EXPECT_EQ("80,40|40,80,80", editor.Widths() + "|" + editor.FieldWidths());
+    EXPECT_FALSE(editor.CanUndo());
+}
+
+TEST_F(EditorSizingTest, TheHeightPairSizesAllRowsInGridAndLayout) {
+    TestEditor &editor = Open(3, 3);
+    const auto heights = [&] {
+        int height = 0;
+        editor.GetRowHeight(2, &height);
+        return std::to_string(height) + " " + std::to_string(editor.Layout()->GetWorkingCopy().m_nRowHeight);
+    };
+    CEditorCore::SizingCommand command(0, 21, 34, &editor, &CEditorCore::ExecChangeRowHeight,
+                                       &CEditorCore::UnExecChangeRowHeight);
+    EXPECT_TRUE(editor.ExecChangeRowHeight(&command));
+    EXPECT_EQ("34 34", heights());
+    EXPECT_TRUE(editor.UnExecChangeRowHeight(&command));
+    EXPECT_EQ("21 21", heights());
+    EXPECT_FALSE(editor.CanUndo());
+}
+
+TEST_F(EditorSizingTest, TheHeadingsPairSizesBothHeadingsInGridAndLayout) {
+    TestEditor &editor = Open(3, 3);
+    const auto headings = [&] {
+        const CTableInfo &info = editor.Layout()->GetWorkingCopy();
+        return Headings(editor) + " " + std::to_string(info.m_nSideHeadingWidth) + "x" +
+               std::to_string(info.m_nTopHeadingHeight);
+    };
+    CEditorCore::HeadingsCommand command(41, 52, 23, 34, &editor, &CEditorCore::ExecResizeHeadings,
+                                         &CEditorCore::UnExecResizeHeadings);
+    EXPECT_TRUE(editor.ExecResizeHeadings(&command));
+    EXPECT_EQ("52x34 52x34", headings());
+    EXPECT_TRUE(editor.UnExecResizeHeadings(&command));
+    EXPECT_EQ("41x23 41x23", headings());
+    EXPECT_FALSE(editor.CanUndo());
+}
+
+TEST_F(EditorSizingTest, ThePairOfSeveralWidthsSizesTheColumnsAndSelectsThem) {
+    TestEditor &editor = Open(4, 3);
+    SetWidths(editor, 80);
+    editor.SelectRows(1, 1);
+    CEditorCore::MultiSizingCommand command(1, 3, &editor, &CEditorCore::ExecChangeMultColWidths,
+                                            &CEditorCore::UnExecChangeMultColWidths);
+    for (int i = 0; i < 2; ++i) {
+        command.m_OldWidths.Add(40 + i);
+        command.m_NewWidths.Add(90 + i);
+    }
+    const auto state = [&] { return editor.Widths() + "|" + editor.FieldWidths() + "|" + editor.Selection(); };
+    EXPECT_TRUE(editor.ExecChangeMultColWidths(&command));
+    EXPECT_EQ("80,90,91,80|80,90,91,80|1,0..2,2 mode=1 anchor=(1,-1)", state());
+    EXPECT_EQ("cur=(3,0) size=4x3", editor.State());
+    editor.GotoCell(0, 2);
+    editor.SelectRows(1, 1);
+    EXPECT_TRUE(editor.UnExecChangeMultColWidths(&command));
+    EXPECT_EQ("80,40,41,80|80,40,41,80|1,0..2,2 mode=1 anchor=(1,-1)", state());
+    EXPECT_EQ("cur=(3,0) size=4x3", editor.State());
+    EXPECT_FALSE(editor.CanUndo());
+}
+
+// The grid has the new widths by then.
+TEST_F(EditorSizingTest, WidthsOfSeveralColumnsGoIntoTheLayoutAndAreOneStepOfTheHistory) {
+    for (int levels : {5, 0}) {
+        m_service.m_options.m_undoLevels = levels;
+        TestEditor &editor = Open(4, 3);
+        SetWidths(editor, 80);
+        editor.GotoCell(2, 1);
+        CArray<int, int> before, after;
+        for (int i = 0; i < 2; ++i) {
+            before.Add(80);
+            after.Add(60 + i);
+            editor.SetColWidth(1 + i, 60 + i);
+        }
+        editor.OnChangeMultColWidths(1, 2, before, after);
+        EXPECT_EQ("80,60,61,80|80,60,61,80", editor.Widths() + "|" + editor.FieldWidths()) << levels;
+        EXPECT_EQ(levels > 0, editor.CanUndo());
+        if (levels == 0)
+            continue;
+        editor.GotoCell(0, 0);
+        editor.Undo();
+        EXPECT_EQ("80,80,80,80|80,80,80,80", editor.Widths() + "|" + editor.FieldWidths());
+        EXPECT_EQ("cur=(2,0) size=4x3", editor.State()); // the column that was current then
+        EXPECT_FALSE(editor.CanUndo());
+        editor.Redo();
+        EXPECT_EQ("80,60,61,80|80,60,61,80", editor.Widths() + "|" + editor.FieldWidths());
+    }
 }
 
 } // namespace

@@ -553,16 +553,24 @@ TEST_F(CtrlEditTest, DestroyingTheControlEndsTheEdit) {
     EXPECT_EQ(nullptr, m_grid.GetEditControl());
 }
 
-TEST_F(CtrlEditTest, ACancelledEditWritesNothingAndGivesTheCellsTheFocus) {
+TEST_F(CtrlEditTest, ACancelledEditWritesAndTellsNothingAndLeavesTheFocusToTheCellsAlone) {
     Fill(3, 5);
-    m_grid.StartEdit();
-    Type("new");
-    m_grid.Take();
-    m_grid.CancelEdit();
-    EXPECT_EQ("closed", EditText());
-    EXPECT_EQ("", m_grid.Take());
-    EXPECT_EQ(m_grid.Cells(), ::GetFocus());
-    m_grid.CancelEdit(); // with none there is nothing to do
+    m_grid.CancelEdit(); // with none open there is nothing to do
+    for (const bool focused : {true, false}) {
+        m_grid.StartEdit();
+        Type("x");
+        if (!focused) {
+            m_grid.m_GI.m_suppressFinish = 1; // a box that takes the focus leaves the edit open
+            m_host.SetFocus();
+            m_grid.m_GI.m_suppressFinish = 0;
+        }
+        m_grid.Take();
+        m_grid.CancelEdit();
+        EXPECT_EQ("closed", EditText());
+        EXPECT_EQ("", m_grid.Take() + m_log.Take());
+        EXPECT_EQ("0.0", m_source->Text(0, 0));
+        EXPECT_EQ(focused ? m_grid.Cells() : m_host.m_hWnd, ::GetFocus());
+    }
 }
 
 } // namespace
