@@ -190,8 +190,8 @@ TEST_F(DataEditorAppearanceTest, TheBorderFollowsTheFlagsAndNoOptionIsWritten) {
         m_source->m_rowsRead.clear();
         editor.UpdateBorders();
         ::UpdateWindow(editor.Cells());
-        EXPECT_EQ((horizontal ? 8 : 0) + (vertical ? 4 : 0), Border(editor));
         EXPECT_FALSE(m_source->m_rowsRead.empty()); // the cells are painted again
+        EXPECT_EQ((horizontal ? 8 : 0) + (vertical ? 4 : 0), Border(editor));
         EXPECT_EQ(vertical, editor.IsShowingVerticleLines());
         EXPECT_EQ(horizontal, editor.IsShowingHorizLines());
         EXPECT_TRUE(m_service.m_options.m_horizontal && m_service.m_options.m_vertical);

@@ -309,7 +309,7 @@ TEST_F(EditorOpenBoxTest, ASettledEditIsWrittenWhereItWasTypedAndGoneWhereItWasN
     EXPECT_EQ("", m_log.Take());
 }
 
-TEST_F(EditorOpenBoxTest, AnEditThatCannotEndIsSettledUnwritten) {
+TEST_F(EditorOpenBoxTest, AnEditThatCannotBeWrittenIsSettledUnwritten) {
     TestEditor &editor = Open(2, 0);
     m_source->m_results["AppendRow"] = 1;
     Type(editor, "typed");
@@ -317,6 +317,21 @@ TEST_F(EditorOpenBoxTest, AnEditThatCannotEndIsSettledUnwritten) {
     EXPECT_EQ("Could not add new record to data source!|16", TestApp().TakeBoxes());
     EXPECT_EQ("closed", Box(editor));
     EXPECT_EQ("", Records(m_source));
+}
+
+TEST_F(EditorOpenBoxTest, AnEditThatItsQuestionHoldsOpenIsSettledUnwritten) {
+    TestEditor &editor = Open(2, 2, kEditVerify);
+    Type(editor, "typed");
+    TestApp().Answer({IDYES});
+    std::string whileUp;
+    TestApp().m_whileUp = [&](const std::string &) {
+        editor.SettleEdit();
+        whileUp = Box(editor);
+    };
+    Key(editor, VK_TAB);
+    EXPECT_EQ("closed", whileUp);
+    EXPECT_EQ("Original = 0.0, New = typed - Substitute?|36", TestApp().TakeBoxes());
+    EXPECT_EQ("0.0,1.0/0.1,1.1/", Records(m_source));
 }
 
 } // namespace
