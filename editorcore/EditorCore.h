@@ -115,6 +115,8 @@ public:
     bool IsFieldHidden(const char *name);
     bool CanHideCols();
     int GetColumnCellType(int gridCol);
+    // An edit in progress in the column is finished first.
+    int SetColTranslation(int gridCol, int field);
     // These four rebuild the grid's columns. An edit in progress is finished first, and the selection, which names grid
     // columns, goes. When memory runs out they say so and the view stays as it was.
     void DisplayCols(const CUIntArray &fields);
