@@ -67,7 +67,7 @@ public:
     virtual void SetTextAlignment();
 
     // --- Open, close, save
-    // False when the source refuses; everything is as it was then.
+    // False when the source refuses, and within another close; everything is as it was then.
     bool CloseDataSource(bool argument);
     void OnSave(int unused);
     // `filtered` with a filter number of 0 or more saves the filtered records only.
@@ -324,6 +324,7 @@ private:
     void FitSideHeading(int ownWidth);
     long RowsOfSource(CUGDataSource *source) const;
     long LastRowIndex();
+    bool MayWriteTo(const CString &path);
     bool SaveUnderNewPath(CUGDataSource *source, const CString &newPath, const CString &options);
     template <class Change> bool ChangeView(Change change);
     void ShowFields(const CUIntArray &fields);
@@ -382,4 +383,5 @@ private:
     int m_nColsToLock = 0;              // asked for; there may be fewer columns
     bool m_bSavingEdit = false;         // SaveEditContents tells the title itself
     bool m_bTitleAwaitsWrite = false;   // the edit being finished changes its cell
+    bool m_bClosing = false;            // CloseDataSource may ask, and is not begun anew meanwhile
 };

@@ -3,6 +3,7 @@
 #include "editorcore/FrozenWidthScope.h"
 #include "editorcore/MemoryGuard.h"
 #include "grid/PaintingScope.h"
+#include "grid/ValueScope.h"
 
 // A source that is open, or null: the source itself has said why.
 std::unique_ptr<CUGDataSource> CEditorCore::OpenSource(const char *path, const char *table, const char *options) {
@@ -131,6 +132,9 @@ void CEditorCore::PumpDroppingClicks() {
 bool CEditorCore::CloseDataSource(bool argument) {
     if (!m_bDataSrcOpen)
         return true;
+    if (m_bClosing)
+        return false;
+    const CUGValueScope closing(&m_bClosing, true);
     if (GetEditControl() != nullptr)
         SaveEditContents();
     CUGDataSource *source = GetCurrentDataSrc(false);
