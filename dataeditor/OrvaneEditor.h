@@ -171,6 +171,7 @@ private:
 
     void LockLoadedColumns();
     bool AddedFieldShown();
+    void SettleEditOver(int col, long row);
     void ReadCellText(int col, long row);
     void WriteCellText(int col, long row, const char *text);
     void FindNext(const CFindReplaceData &data);
@@ -189,6 +190,7 @@ private:
     void SayNoMatch(const char *originalFind);
     bool AskToReplace(int col, long row, const std::string &text, const std::string &newText, int *answer,
                       bool *replaced, bool *all);
+    bool StillHolds(int col, long row, const std::string &text, bool *holds);
     bool StoreReplacement(int col, long row, const std::string &newText, bool all);
     bool PrepareReplace(ReplaceRun *run, int col, int direction);
     bool ReplaceInColumn(ReplaceRun *run, int col);

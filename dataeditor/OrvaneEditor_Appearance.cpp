@@ -114,6 +114,7 @@ int COrvaneEditor::SpanOfColumns(int first, int last) {
 
 void COrvaneEditor::OnLockColumns() {
     RunCommand([&] {
+        SettleEdit(); // before the dialog takes the focus
         CResourceScope resources;
         CLockColumns dialog(m_nLockedCols, GetNumberCols(), this);
         const INT_PTR answer = dialog.DoModal();

@@ -63,10 +63,11 @@ void COrvaneEditor::OnAttachFilter(int number) {
 
 void COrvaneEditor::OnSelectAttachFilter() {
     RunCommand([&] {
-        CUGDataSource *source = GetCurrentDataSrc(false);
         int number = kNoFilter;
-        if (source == nullptr || !ms_pAppInterface->SelectFilter(&number) ||
-            source->SetOption(kAttachFilter, number, 0) != GRID_SUCCESS)
+        if (GetCurrentDataSrc(false) == nullptr || !ms_pAppInterface->SelectFilter(&number))
+            return;
+        CUGDataSource *source = GetCurrentDataSrc(false); // the host may have closed it while it asked
+        if (source == nullptr || source->SetOption(kAttachFilter, number, 0) != GRID_SUCCESS)
             return;
         m_nFilter = number;
         RedrawAll();
@@ -77,9 +78,10 @@ void COrvaneEditor::OnSelectAttachFilter() {
 void COrvaneEditor::OnEditFilter() {
     RunCommand([&] {
         const int number = m_nFilter < kDefaultFilter ? kDefaultFilter : m_nFilter;
+        const bool edited =
+            GetCurrentDataSrc(false) != nullptr && ms_pAppInterface->EditFilter(number, m_strFilePath);
         CUGDataSource *source = GetCurrentDataSrc(false);
-        if (source != nullptr && ms_pAppInterface->EditFilter(number, m_strFilePath) &&
-            source->SetOption(kAttachFilter, kDefaultFilter, 0) == GRID_SUCCESS)
+        if (edited && source != nullptr && source->SetOption(kAttachFilter, kDefaultFilter, 0) == GRID_SUCCESS)
             m_nFilter = kDefaultFilter;
         RedrawAll();
     });
@@ -201,6 +203,7 @@ int COrvaneEditor::OnEditContinue(int oldCol, long oldRow, int *newCol, long *ne
 // A number beyond the end lands on the last record but one, the exact last one on the last.
 void COrvaneEditor::OnGotoRecord() {
     RunCommand([this] {
+        SettleEdit(); // before the dialog takes the focus
         CResourceScope resources;
         CInsertRecordsDlg dialog("Goto Record", "Goto Record", nullptr);
         const INT_PTR answer = dialog.DoModal();
@@ -237,6 +240,7 @@ void COrvaneEditor::OnDeleteRows() {
                           "(You will not be able to undo this operation)",
                           MB_YESNO | MB_ICONQUESTION) != IDYES)
             return;
+        SettleEdit(); // one begun while it was asked
         if (CUGDataSource *source = GetCurrentDataSrc(false)) // the host may have closed it while it was asked
             DeleteFilteredRecords(source);
     });

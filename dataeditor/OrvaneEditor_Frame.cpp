@@ -132,6 +132,8 @@ void COrvaneEditor::ResetFileView(bool full) {
         return;
     if (IsInEditMode())
         SaveEditContents();
+    if (GetCurrentDataSrc(false) == nullptr)
+        return; // closed while the edit's own question was up
     if (full || !AddedFieldShown()) {
         CString layout(m_strFilePath);
         GetLayoutFileName(layout);
@@ -227,8 +229,15 @@ void COrvaneEditor::OnParentActivate(int activate, CView *, CView *) {
 
 // --- Texts from outside
 
+// A box over the cell would write its own text over the one that is entered.
+void COrvaneEditor::SettleEditOver(int col, long row) {
+    if (IsInEditMode() && m_GI.m_editCol == col && m_GI.m_editRow == row)
+        SettleEdit();
+}
+
 void COrvaneEditor::EnterEditText(const char *text, int col, long row, bool quick) {
     RunCommand([&] {
+        SettleEditOver(col, row);
         if (quick) {
             ReadCellText(col, row);
             QuickSetText(col, row, text);
@@ -257,10 +266,11 @@ void COrvaneEditor::WriteCellText(int col, long row, const char *text) {
 void COrvaneEditor::EnterPickListText(const char *text) {
     if (IsGridReadOnly())
         return;
+    const bool settled = RunInMemory([&] { SettleEditOver(GetCurrentCol(), GetCurrentRow()); }); // it may ask
     EnablePainting(0);
     m_nPickListCol = GetCurrentCol();
     m_nPickListRow = GetCurrentRow();
-    const bool inMemory = RunInMemory([&] { WriteCellText(m_nPickListCol, m_nPickListRow, text); });
+    const bool inMemory = settled && RunInMemory([&] { WriteCellText(m_nPickListCol, m_nPickListRow, text); });
     PumpDroppingClicks();
     m_nPickListTimer = SetTimer(kPickListTimerId, kPickListRestMs, nullptr); // it lets the grid paint again
     OnEditNotify();

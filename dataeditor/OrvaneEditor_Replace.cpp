@@ -83,7 +83,16 @@ bool COrvaneEditor::AskToReplace(int col, long row, const std::string &text, con
     }
     *replaced = *answer == kYes || *answer == kAll;
     *all = *all || *answer == kAll;
-    return true;
+    return !*replaced || StillHolds(col, row, text, replaced);
+}
+
+// The answer was for this text: another record may be here since, or the cell hold something else. False after an error
+// that was told.
+bool COrvaneEditor::StillHolds(int col, long row, const std::string &text, bool *holds) {
+    SettleEdit();
+    const char *now = CellText(col, row);
+    *holds = now != nullptr && text == now;
+    return now != nullptr;
 }
 
 bool COrvaneEditor::StoreReplacement(int col, long row, const std::string &newText, bool all) {
@@ -108,6 +117,7 @@ bool COrvaneEditor::ReplaceCellStringIfMatch(int col, long row, const char *find
     *matched = *replaced = false;
     if (!RecPassesFilter(row + 1))
         return true;
+    SettleEdit(); // a box over the cell would write over what is replaced
     const char *cellText = CellText(col, row);
     if (cellText == nullptr)
         return false;

@@ -115,6 +115,8 @@ public:
     bool IsFieldHidden(const char *name);
     bool CanHideCols();
     int GetColumnCellType(int gridCol);
+    // An edit in progress in the column is finished first.
+    int SetColTranslation(int gridCol, int field);
     // These four rebuild the grid's columns. An edit in progress is finished first, and the selection, which names grid
     // columns, goes. When memory runs out they say so and the view stays as it was.
     void DisplayCols(const CUIntArray &fields);
@@ -313,8 +315,20 @@ private:
     void ShowTable(const char *path, const char *table);
     void AbandonLoad();
     void DropSource();
-    struct Closing { // a close under way
-        CUGDataSource *source = nullptr;
+    // A close under way. Whoever destroys the editor meanwhile leaves the source, which is at work, to be deleted here.
+    struct Closing {
+        explicit Closing(CEditorCore *closed) : editor(closed) { editor->m_pClosing = this; }
+        ~Closing() {
+            if (editorGone)
+                delete source;
+            else
+                editor->m_pClosing = nullptr;
+        }
+        Closing(const Closing &) = delete;
+        Closing &operator=(const Closing &) = delete;
+
+        CEditorCore *editor;
+        CUGDataSource *source = nullptr; // null while it is not at work
         bool editorGone = false;
     };
     bool CloseSource(bool argument, Closing *closing);
@@ -328,6 +342,7 @@ private:
     void FitSideHeading(int ownWidth);
     long RowsOfSource(CUGDataSource *source) const;
     long LastRowIndex();
+    bool MayWriteTo(const CString &path);
     bool SaveUnderNewPath(CUGDataSource *source, const CString &newPath, const CString &options);
     template <class Change> bool ChangeView(Change change);
     void ShowFields(const CUIntArray &fields);

@@ -110,6 +110,7 @@ void CEditorCore::AppendSelectedTexts(CString &out, bool clearCells, bool *stopp
 bool CEditorCore::CreateSelectedString(CString &out, int clearCells, bool) {
     bool stopped = false;
     const bool inMemory = RunInMemory([&] {
+        SettleEdit(); // the cells are read, and may be written
         out.Empty();
         out.Preallocate(EstimateSelectedText());
         AppendSelectedTexts(out, clearCells != 0, &stopped);

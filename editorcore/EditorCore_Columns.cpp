@@ -230,6 +230,7 @@ void CEditorCore::OnUnHideCols() {
     CArray<bool, bool> shown;
     const bool asked = RunInMemory([&] {
         command = std::make_unique<ReorderCommand>(this, &CEditorCore::ExecOrderCols, &CEditorCore::UnExecOrderCols);
+        SettleEdit();
         GetDisplayCols(command->m_Before);
         GetVirtualColInfo(names, shown);
         ms_pAppInterface->PromptFieldVisibility(names, shown);
@@ -270,6 +271,7 @@ void CEditorCore::OnOrderCols(CStringArray *order) {
     CStringArray names;
     const bool ready = RunInMemory([&] {
         command = std::make_unique<ReorderCommand>(this, &CEditorCore::ExecOrderCols, &CEditorCore::UnExecOrderCols);
+        SettleEdit(); // before the host's dialog takes the focus
         GetDisplayCols(command->m_Before);
         if (order != nullptr)
             names.Copy(*order);

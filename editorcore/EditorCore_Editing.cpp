@@ -46,10 +46,12 @@ int CEditorCore::OnEditContinue(int oldCol, long oldRow, int *newCol, long *newR
 }
 
 int CEditorCore::OnEditFinish(int col, long row, CEdit *edit) {
+    const HWND box = edit->GetSafeHwnd();
     if (m_nEditMode == kEditVerify)
         VarifyEdit(edit, col, row);
-    if (GetEditControl() == nullptr)
-        return 0;
+    if (box == nullptr || edit->GetSafeHwnd() != box)
+        return 0; // what ran meanwhile ended this edit, and may have begun another
+    const CUGValueScope ownStep(&m_bInCommand, false); // also where a command or its dialog ends the edit
     return OnCellEdit(col, row, edit, nullptr, nullptr) ? 1 : 0;
 }
 
@@ -65,12 +67,13 @@ void CEditorCore::VarifyEdit(CWnd *edit, int col, long row) {
     CString question;
     question.Format("Original = %s, New = %s - Substitute?", static_cast<const char *>(stored),
                     static_cast<const char *>(typed));
+    const HWND box = edit->GetSafeHwnd();
     int answer;
     {
         const CUGValueScope staying(&m_GI.m_suppressFinish, 1); // the question takes the focus, which must not end the edit
         answer = AfxMessageBox(question, MB_YESNO | MB_ICONQUESTION, 0);
     }
-    if (answer != IDYES && GetEditControl() != nullptr) // what ran meanwhile may have ended the edit
+    if (answer != IDYES && edit->GetSafeHwnd() == box) // another box's text is another cell's
         edit->SetWindowText(stored);
 }
 
@@ -154,7 +157,7 @@ void CEditorCore::SaveEditContents() {
     const bool differs = IsEditTyped();
     {
         const CUGValueScope saving(&m_bSavingEdit, true);
-        const CUGValueScope ownStep(&m_bInCommand, false); // also where a command finishes it before it begins
+        const CUGValueScope ending(&m_GI.m_suppressFinish, 0); // what keeps it open is meant for the focus only
         edit->SendMessage(WM_KILLFOCUS, 0, 0);
     }
     if (differs)

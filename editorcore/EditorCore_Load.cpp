@@ -4,6 +4,7 @@
 #include "editorcore/MemoryGuard.h"
 #include "editorcore/WindowPump.h"
 #include "grid/PaintingScope.h"
+#include "grid/ValueScope.h"
 
 // A source that is open, or null: the source itself has said why.
 std::unique_ptr<CUGDataSource> CEditorCore::OpenSource(const char *path, const char *table, const char *options) {
@@ -130,14 +131,11 @@ bool CEditorCore::CloseDataSource(bool argument) {
         return true;
     if (m_pClosing != nullptr)
         return false; // asked again from within a question of the source's, which is still at work
-    Closing closing;
-    m_pClosing = &closing;
+    Closing closing(this);
     const bool closed = CloseSource(argument, &closing);
-    if (closing.editorGone) { // whoever destroyed it left the source, which was at work, to be deleted here
-        delete closing.source;
+    if (closing.editorGone)
         return true;
-    }
-    m_pClosing = nullptr;
+    closing.source = nullptr; // from here on it is the editor's again
     if (closed)
         LeaveTable();
     return closed;

@@ -65,6 +65,7 @@ void CEditorCore::OnInsertRows() {
         return;
     }
     ChangeRows([&] {
+        SettleEdit(); // before the dialog takes the focus: verifying has a question of its own
         long count;
         if (!AskForRecords("Insert Records", "Number of records: ", &count))
             return;
@@ -123,6 +124,7 @@ void CEditorCore::OnDeleteRows(bool toClipboard) {
         return;
     }
     ChangeRows([&] {
+        SettleEdit();
         int left, right;
         long first, bottom, count;
         const bool selected = IsInMultipleSelection();

@@ -81,6 +81,22 @@ void CEditorCore::OnSave(int) {
     }
 }
 
+// False, having told why or been told so, for a file that is open and for one that is to be kept.
+bool CEditorCore::MayWriteTo(const CString &path) {
+    CString text;
+    if (GetOpenFilesGrid(path) != nullptr) {
+        text.Format("The file '%s' is already open in the Editor.\n\n"
+                    "Please close before trying to save to it.",
+                    static_cast<const char *>(path));
+        AfxMessageBox(text, 0, 0);
+        return false;
+    }
+    if (!FileExists(path))
+        return true;
+    text.Format("The file '%s' already exists!\nOverwrite?", static_cast<const char *>(path));
+    return AfxMessageBox(text, MB_YESNO | MB_ICONQUESTION, 0) == IDYES;
+}
+
 bool CEditorCore::OnSaveAs(const CString &newPath, bool filtered, int filterNumber) {
     if (!filtered && m_strFilePath.CompareNoCase(newPath) == 0) {
         OnSave(filterNumber);
@@ -88,22 +104,13 @@ bool CEditorCore::OnSaveAs(const CString &newPath, bool filtered, int filterNumb
     }
     if (GetEditControl() != nullptr)
         SaveEditContents();
+    if (GetCurrentDataSrc(true) == nullptr || !MayWriteTo(newPath))
+        return false;
+    // While it was asked an edit may have been begun, or the table been closed.
+    SettleEdit();
     CUGDataSource *source = GetCurrentDataSrc(true);
     if (source == nullptr)
         return false;
-    CString text;
-    if (GetOpenFilesGrid(newPath) != nullptr) {
-        text.Format("The file '%s' is already open in the Editor.\n\n"
-                    "Please close before trying to save to it.",
-                    static_cast<const char *>(newPath));
-        AfxMessageBox(text, 0, 0);
-        return false;
-    }
-    if (FileExists(newPath)) {
-        text.Format("The file '%s' already exists!\nOverwrite?", static_cast<const char *>(newPath));
-        if (AfxMessageBox(text, MB_YESNO | MB_ICONQUESTION, 0) != IDYES)
-            return false;
-    }
     // The working copy is gone once it was written, so it is read back. A file of several tables cannot be: then it
     // stays as it was.
     const CTableInfo kept = m_pLayout->GetWorkingCopy();

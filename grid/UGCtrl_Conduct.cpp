@@ -88,7 +88,12 @@ int CUGCtrl::SetDoubleBuffer(int enable) {
 }
 
 int CUGCtrl::SetDefaultFont(CFont *font) {
+    const HFONT before = m_GI.m_defaultFont;
     m_GI.m_defaultFont = font != nullptr ? static_cast<HFONT>(font->GetSafeHandle()) : nullptr;
+    // An open box must not keep a font that its owner may be about to delete.
+    CEdit *edit = GetEditControl();
+    if (edit != nullptr && reinterpret_cast<HFONT>(edit->SendMessage(WM_GETFONT, 0, 0)) == before)
+        edit->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_GI.m_defaultFont), TRUE);
     m_hint.SetFont(font);
     RedrawAll();
     return GRID_SUCCESS;

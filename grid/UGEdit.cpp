@@ -155,7 +155,7 @@ void CUGEdit::OnChar(UINT key, UINT, UINT) {
     if (m_mask.IsOn() && printable && !PassMask(static_cast<char>(key)))
         return;
     const UINT typed = key;
-    if (!m_ctrl->OnEditVerify(m_ctrl->GetCurrentCol(), m_ctrl->GetCurrentRow(), this, &key))
+    if (!m_ctrl->OnEditVerify(m_ctrl->m_GI.m_editCol, m_ctrl->m_GI.m_editRow, this, &key))
         return;
     if (typed == VK_TAB || typed == VK_RETURN || GetSafeHwnd() == nullptr)
         return;

@@ -188,7 +188,7 @@ void EditorRun::ShowColumns() {
 void EditorRun::Freeze() {
     const int wanted = m_random.Below(kFields);
     Say("freeze %d", wanted);
-    ExpectFinish(); // the dialog takes the focus
+    ExpectSettled();
     WithDialog act([wanted](HWND dialog) {
         ::SetDlgItemInt(dialog, IDC_LOCK_COUNT, static_cast<UINT>(wanted), FALSE);
         ::SendMessageA(dialog, WM_COMMAND, IDOK, 0);

@@ -56,6 +56,16 @@ TEST_F(EditorFontsTest, AChangeReachesBothEditorsAndTheHost) {
     EXPECT_EQ(-19, font.lfHeight);
 }
 
+TEST_F(EditorFontsTest, AnOpenBoxGetsTheNewFontWithItsText) {
+    TestEditor &editor = Open(2, 3);
+    editor.StartEdit();
+    TypeText(editor.Edit(), "typed");
+    CEditorCore::SetFonts(FontOf(19), FontOf(31));
+    ASSERT_NE(nullptr, editor.Edit());
+    EXPECT_EQ("typed", WindowText(editor.Edit()));
+    EXPECT_EQ(19, HeightOf(reinterpret_cast<HFONT>(::SendMessageA(editor.Edit(), WM_GETFONT, 0, 0))));
+}
+
 TEST_F(EditorFontsTest, ColumnsGrowToTheirHeadingsAndNeverShrink) {
     TestEditor &editor = Open(2, 3);
     editor.SetColWidth(0, 400);

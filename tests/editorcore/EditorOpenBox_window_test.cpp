@@ -249,6 +249,164 @@ TEST_F(EditorOpenBoxTest, APasteByTheHostFinishesTheEditFirst) {
     EXPECT_EQ("a,b/0.1,1.1/", Records(m_source));
 }
 
+// --- What a command's question or dialog ends
+
+TEST_F(EditorOpenBoxTest, AnEditThatTheDialogOfACommandEndsIsAnUndoStepOfItsOwn) {
+    TestEditor &editor = OpenTable();
+    editor.QuickSetText(1, 2, "late");
+    Type(editor, "typed");
+    WithDialog cancel([](HWND dialog) { ::SendMessageA(dialog, WM_COMMAND, IDCANCEL, 0); });
+    editor.OnInsertRows();
+    ASSERT_EQ("typed,1.0/0.1,1.1/0.2,late/", Records(m_table));
+    editor.Undo();
+    EXPECT_EQ("0.0,1.0/0.1,1.1/0.2,late/", Records(m_table));
+}
+
+TEST_F(EditorOpenBoxTest, AnEditThatTheHostsDialogOfTheOrderEndsIsAnUndoStepOfItsOwn) {
+    TestEditor &editor = OpenTable();
+    editor.QuickSetText(1, 2, "late");
+    Type(editor, "typed");
+    m_service.m_onOrder = [this](CStringArray *) {
+        m_host.SetFocus();
+        return false;
+    };
+    editor.OnOrderCols(nullptr);
+    ASSERT_EQ("typed,1.0/0.1,1.1/0.2,late/", Records(m_table));
+    editor.Undo();
+    EXPECT_EQ("0.0,1.0/0.1,1.1/0.2,late/", Records(m_table));
+}
+
+TEST_F(EditorOpenBoxTest, TheVerifyingQuestionComesBeforeTheDialogOfACommand) {
+    TestEditor &editor = Open(2, 3, kEditVerify);
+    Type(editor, "typed");
+    std::string dialogAtQuestion;
+    WithDialog cancel([](HWND dialog) { ::SendMessageA(dialog, WM_COMMAND, IDCANCEL, 0); });
+    TestApp().m_whileUp = [&](const std::string &) { dialogAtQuestion = m_host.IsWindowEnabled() ? "none" : "up"; };
+    TestApp().Answer({IDYES});
+    editor.OnDeleteRows(false);
+    EXPECT_EQ("none", dialogAtQuestion);
+    EXPECT_EQ("typed,1.0/0.1,1.1/0.2,1.2/", Records(m_source));
+}
+
+TEST_F(EditorOpenBoxTest, ANoIsNotPutIntoABoxThatWasOpenedWhileTheQuestionWasUp) {
+    TestEditor &editor = Open(2, 3, kEditVerify);
+    Type(editor, "typed");
+    TestApp().Answer({IDNO});
+    TestApp().m_whileUp = [&](const std::string &) {
+        editor.GotoCell(1, 1);
+        editor.StartEdit();
+    };
+    Key(editor, VK_DOWN);
+    EXPECT_EQ("1.1", Box(editor));
+    m_host.SetFocus();
+    EXPECT_EQ("0.0,1.0/0.1,1.1/0.2,1.2/", Records(m_source));
+}
+
+TEST_F(EditorOpenBoxTest, AYesMarksNoStepForABoxThatWasOpenedWhileTheQuestionWasUp) {
+    TestEditor &editor = Open(2, 3, kEditVerify);
+    Type(editor, "typed");
+    TestApp().Answer({IDYES});
+    TestApp().m_whileUp = [&](const std::string &) {
+        editor.GotoCell(1, 1);
+        editor.StartEdit();
+        Forget();
+    };
+    Key(editor, VK_DOWN);
+    EXPECT_EQ("", m_log.Take());
+    EXPECT_EQ("1.1", Box(editor));
+}
+
+// --- Cells that are written from elsewhere
+
+TEST_F(EditorOpenBoxTest, ACutOfCellsByTheHostFinishesTheEditFirst) {
+    TestEditor &editor = Open(2, 2);
+    Type(editor, "typed");
+    editor.SelectRange(0, 0, 1, 0);
+    EXPECT_EQ(GRID_SUCCESS, editor.CutSelected());
+    EXPECT_EQ("closed", Box(editor));
+    m_host.SetFocus();
+    EXPECT_EQ(",/0.1,1.1/", Records(m_source));
+    CString text;
+    editor.CopyFromClipBoard(&text);
+    EXPECT_STREQ("typed\t1.0", text);
+}
+
+TEST_F(EditorOpenBoxTest, ADeletionToTheClipboardTakesWhatWasTypedAlong) {
+    TestEditor &editor = Open(2, 3);
+    Type(editor, "typed");
+    editor.SelectRange(0, 0, 0, 1);
+    editor.OnDeleteRows(true);
+    EXPECT_EQ("0.2,1.2/", Records(m_source));
+    CString text;
+    editor.CopyFromClipBoard(&text);
+    EXPECT_STREQ("typed\t1.0\r\n0.1\t1.1", text);
+}
+
+TEST_F(EditorOpenBoxTest, ANewFieldForAColumnFinishesTheEditInItsOwnFieldFirst) {
+    TestEditor &editor = Open(3, 1);
+    Type(editor, "typed");
+    editor.SetColTranslation(0, 2);
+    EXPECT_EQ("closed", Box(editor));
+    m_host.SetFocus();
+    EXPECT_EQ("typed,1.0,2.0/", Records(m_source));
+}
+
+TEST_F(EditorOpenBoxTest, TheFieldOfAnotherColumnLeavesTheEditOpen) {
+    TestEditor &editor = Open(3, 1);
+    Type(editor, "typed");
+    editor.SetColTranslation(1, 2);
+    EXPECT_EQ("typed", Box(editor));
+}
+
+// --- An edit that a host keeps open when the focus goes
+
+TEST_F(EditorOpenBoxTest, AnEditThatOutlivesTheFocusIsSavedAllTheSame) {
+    TestEditor &editor = Open(2, 2);
+    editor.SetSuppressFinishOnFocusLoss(1);
+    Type(editor, "typed");
+    m_host.SetFocus();
+    ASSERT_EQ("typed", Box(editor));
+    editor.OnSave(0);
+    EXPECT_EQ("closed", Box(editor));
+    EXPECT_EQ("typed,1.0/0.1,1.1/", Records(m_source));
+    EXPECT_EQ(1, editor.m_GI.m_suppressFinish);
+}
+
+TEST_F(EditorOpenBoxTest, AnEditThatOutlivesTheFocusIsFinishedBeforeTheViewChanges) {
+    TestEditor &editor = Open(2, 1);
+    editor.SetSuppressFinishOnFocusLoss(1);
+    Type(editor, "typed");
+    editor.ReOrderCols(Fields({1, 0}));
+    EXPECT_EQ("closed", Box(editor));
+    EXPECT_EQ("typed,1.0/", Records(m_source));
+}
+
+// --- The current cell moved away from the box
+
+class VerifyingEditor : public TestEditor {
+public:
+    using TestEditor::TestEditor;
+    int OnEditVerify(int col, long row, CEdit *edit, UINT *key) override {
+        if (col >= 0)
+            m_asked += std::to_string(col) + "," + std::to_string(row) + " ";
+        return TestEditor::OnEditVerify(col, row, edit, key);
+    }
+    std::string m_asked;
+};
+
+TEST_F(EditorOpenBoxTest, ACharacterIsAskedAboutForTheCellOfTheBox) {
+    auto owned = std::make_unique<VerifyingEditor>(&m_log);
+    VerifyingEditor &editor = *owned;
+    m_editors.push_back(std::move(owned));
+    editor.CreateGrid(WS_VISIBLE, CRect(0, 0, 500, 300), &m_host, 210);
+    m_source = Source(3, 3);
+    ASSERT_TRUE(editor.LoadData("table", nullptr, kEditNormal, ""));
+    editor.StartEdit();
+    editor.GotoCell(2, 1);
+    TypeText(editor.Edit(), "ab");
+    EXPECT_EQ("0,0 0,0 ", editor.m_asked);
+}
+
 // --- The edit mode
 
 TEST_F(EditorOpenBoxTest, ANewEditModeFinishesTheEditUnderTheOldOne) {
