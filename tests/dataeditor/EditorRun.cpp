@@ -20,6 +20,11 @@ const EditorRun::Event EditorRun::kEvents[] = {
     {3, &EditorRun::DoubleClick},           {2, &EditorRun::LeaveWindow},       {2, &EditorRun::ChangeMode},
     {2, &EditorRun::ChangeFilter},          {2, &EditorRun::ChangeRefusals},    {1, &EditorRun::ChangeEnterKey},
     {1, &EditorRun::RowsChangedBelow},      {1, &EditorRun::Replace},           {1, &EditorRun::Save},
+    {6, &EditorRun::GoSomewhere},           {2, &EditorRun::ScrollView},        {1, &EditorRun::ClickHeading},
+    {1, &EditorRun::FocusCells},            {1, &EditorRun::Find},              {1, &EditorRun::SizeColumn},
+    {1, &EditorRun::SizeRows},              {1, &EditorRun::ChangeFonts},       {1, &EditorRun::ResetView},
+    {3, &EditorRun::EnterText},             {2, &EditorRun::PickText},          {1, &EditorRun::CutCells},
+    {1, &EditorRun::InsertByDialog},        {1, &EditorRun::GoToRecord},        {1, &EditorRun::SaveUnderAnotherName},
     {0, nullptr},
 };
 
@@ -219,7 +224,7 @@ void EditorRun::AppendRecord() {
     m_boxUndone = m_boxUndone && IsReadOnly(); // an append begins anew, done or not
     if (!IsReadOnly() && !m_source->m_refusesRows)
         m_model.Append(1);
-    m_editor->OnAppendRow(0);
+    ScrollMaybe([this] { m_editor->OnAppendRow(0); });
 }
 
 void EditorRun::DeleteRecords() {
@@ -383,8 +388,11 @@ void EditorRun::Click() {
     const bool shift = m_random.OneIn(4);
     HeldKeys held(shift ? std::initializer_list<int>{VK_SHIFT} : std::initializer_list<int>{});
     PressLeft(m_editor->Cells(), x, y);
-    if (m_random.OneIn(3))
-        MoveMouse(m_editor->Cells(), m_random.Below(300), m_random.Below(150), MK_LBUTTON);
+    const CPoint to(m_random.Below(300), m_random.Below(150));
+    CRect cells;
+    ::GetClientRect(m_editor->Cells(), &cells);
+    if (m_random.OneIn(3) && cells.PtInRect(to)) // beyond the cells it would scroll on until the button comes up
+        MoveMouse(m_editor->Cells(), to.x, to.y, MK_LBUTTON);
     ReleaseLeft(m_editor->Cells(), x, y);
 }
 

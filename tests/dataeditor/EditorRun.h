@@ -10,6 +10,7 @@
 #include "SeededRandom.h"
 #include "host/sources/DbfDataSource.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -113,15 +114,33 @@ private:
     void RowsChangedBelow();
     void Replace();
     void Save();
+    void GoSomewhere();
+    void ScrollView();
+    void ClickHeading();
+    void FocusCells();
+    void Find();
+    void SizeColumn();
+    void SizeRows();
+    void ChangeFonts();
+    void ResetView();
+    void EnterText();
+    void PickText();
+    void CutCells();
+    void InsertByDialog();
+    void GoToRecord();
+    void SaveUnderAnotherName();
 
     // --- What the model is told
     bool BoxIsOpen() const { return m_editor->Edit() != nullptr; }
     std::string BoxText() const { return WindowText(m_editor->Edit()); }
     bool BoxIsTyped() const;
+    bool IsBoxOver(int col, long row) const;
     std::string Stored(long row, int field) const;
     static bool IsTaken(int field, const std::string &text);
     void Put(long row, int field, const std::string &text);
     void ExpectFinish(); // the box is finished, typed or not
+    void ExpectFinishWith(std::string text);
+    void ScrollMaybe(const std::function<void()> &act);
     void ExpectSettled();
     void ExpectAppendedBeforeEnter();
     bool ExpectPasted(const std::string &text, int col, long row);

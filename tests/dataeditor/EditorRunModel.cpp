@@ -83,9 +83,20 @@ int EditorRun::NextAnswer() {
 }
 
 void EditorRun::ExpectFinish() {
-    if (!BoxIsOpen())
-        return;
-    std::string text = BoxText();
+    if (BoxIsOpen())
+        ExpectFinishWith(BoxText());
+}
+
+// A box is finished before its cell scrolls away under it, and otherwise stays.
+void EditorRun::ScrollMaybe(const std::function<void()> &act) {
+    const bool open = BoxIsOpen();
+    const std::string text = open ? BoxText() : "";
+    act();
+    if (open && !BoxIsOpen())
+        ExpectFinishWith(text);
+}
+
+void EditorRun::ExpectFinishWith(std::string text) {
     const std::string stored = Stored(m_boxRow, m_boxField);
     const bool asked = m_editor->GetEditMode() == kEditVerify && !stored.empty() && !text.empty() && text != stored;
     if (asked && NextAnswer() != IDYES)
