@@ -1,5 +1,5 @@
-// An open edit box while texts come from outside the editing flow, and what holds after the data editor's questions when
-// something else was done while they were up.
+// An open edit box while texts come from outside the editing flow, and what holds after the data editor's questions
+// when something else was done while they were up.
 #include "DataEditorTest.h"
 
 #include "dataeditor/DataEditorDlgs.h"
@@ -86,7 +86,8 @@ TEST_F(DataEditorOpenBoxTest, AReplacementInOneCellTakesWhatWasTypedThere) {
     Type(editor, "typed");
     int answer = 0, count = 0;
     bool matched = false, replaced = false;
-    EXPECT_TRUE(editor.ReplaceCellStringIfMatch(0, 0, "typed", "new", true, false, true, &answer, &matched, &replaced, &count));
+    EXPECT_TRUE(editor.ReplaceCellStringIfMatch(0, 0, "typed", "new", true, false, true, &answer, &matched, &replaced,
+                                                &count));
     m_host.SetFocus();
     EXPECT_EQ("new,1.0/0.1,1.1/", Records());
 }

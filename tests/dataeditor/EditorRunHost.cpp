@@ -50,7 +50,9 @@ void EditorRun::FocusCells() {
 
 void EditorRun::Find() {
     CFindReplaceData data;
-    data.SetData("a", "", true, m_random.OneIn(2), m_random.OneIn(2) ? kSearchDown : kSearchAll, Search::kAnywhere, false);
+    const bool allFields = m_random.OneIn(2);
+    const int direction = m_random.Of({kSearchDown, kSearchAll});
+    data.SetData("a", "", true, allFields, direction, Search::kAnywhere, false);
     Say("find a");
     if (m_view.m_shown.empty())
         return;
@@ -116,7 +118,8 @@ void EditorRun::EnterText() {
     if (cols == 0)
         return;
     const int col = m_random.OneIn(2) ? m_editor->GetCurrentCol() : m_random.Below(cols);
-    const long row = m_random.OneIn(2) ? m_editor->GetCurrentRow() : m_random.Below(static_cast<int>(m_model.Rows()) + 1);
+    const long any = m_random.Below(static_cast<int>(m_model.Rows()) + 1);
+    const long row = m_random.OneIn(2) ? m_editor->GetCurrentRow() : any;
     const std::string text = RandomText(3);
     Say("enter %s into %d,%ld", text.c_str(), col, row);
     if (IsBoxOver(col, row))
