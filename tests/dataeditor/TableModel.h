@@ -6,6 +6,35 @@
 
 using Records = std::vector<std::vector<std::string>>; // by row and field
 
+// What was done and can be undone, as whole copies.
+template <class State> class CopiedHistory {
+public:
+    bool CanUndo() const { return !m_undo.empty(); }
+    bool CanRedo() const { return !m_redo.empty(); }
+    // The state before a change; what could be redone ends here.
+    void Note(const State &before) {
+        m_undo.push_back(before);
+        m_redo.clear();
+    }
+    void DropOldest() { m_undo.erase(m_undo.begin()); }
+    size_t Depth() const { return m_undo.size(); }
+    void Undo(State *state) { Travel(m_undo, m_redo, state); }
+    void Redo(State *state) { Travel(m_redo, m_undo, state); }
+    void Forget() {
+        m_undo.clear();
+        m_redo.clear();
+    }
+
+private:
+    static void Travel(std::vector<State> &from, std::vector<State> &to, State *state) {
+        to.push_back(*state);
+        *state = from.back();
+        from.pop_back();
+    }
+
+    std::vector<State> m_undo, m_redo;
+};
+
 // The records with the undo of the source: changes gather in one group until a boundary.
 class TableModel {
 public:
@@ -15,11 +44,9 @@ public:
     void Change(const Records &next) {
         if (next == m_records)
             return;
-        if (!m_open) {
-            m_undo.push_back(m_records);
-            m_redo.clear();
-            m_open = true;
-        }
+        if (!m_open)
+            m_history.Note(m_records);
+        m_open = true;
         m_records = next;
     }
     void Write(long row, int field, const std::string &text) {
@@ -39,13 +66,18 @@ public:
         next.erase(next.begin() + first, next.begin() + last + 1);
         Change(next);
     }
-    bool CanUndo() const { return !m_undo.empty(); }
-    bool CanRedo() const { return !m_redo.empty(); }
-    void Undo() { Travel(m_undo, m_redo); }
-    void Redo() { Travel(m_redo, m_undo); }
+    bool CanUndo() const { return m_history.CanUndo(); }
+    bool CanRedo() const { return m_history.CanRedo(); }
+    void Undo() {
+        m_history.Undo(&m_records);
+        m_open = false;
+    }
+    void Redo() {
+        m_history.Redo(&m_records);
+        m_open = false;
+    }
     void ForgetHistory() {
-        m_undo.clear();
-        m_redo.clear();
+        m_history.Forget();
         m_open = false;
     }
     long Rows() const { return static_cast<long>(m_records.size()); }
@@ -53,14 +85,7 @@ public:
     size_t m_fields = 0;
 
 private:
-    void Travel(std::vector<Records> &from, std::vector<Records> &to) {
-        to.push_back(m_records);
-        m_records = from.back();
-        from.pop_back();
-        m_open = false;
-    }
-
-    std::vector<Records> m_undo, m_redo;
+    CopiedHistory<Records> m_history;
     bool m_open = false;
 };
 
@@ -72,27 +97,17 @@ public:
     std::vector<int> m_shown;
 
     void Change(const std::vector<int> &next) {
-        if (m_undo.size() == kDepth)
-            m_undo.erase(m_undo.begin());
-        m_undo.push_back(m_shown);
-        m_redo.clear();
+        if (m_history.Depth() == kDepth)
+            m_history.DropOldest();
+        m_history.Note(m_shown);
         m_shown = next;
     }
-    bool CanUndo() const { return !m_undo.empty(); }
-    bool CanRedo() const { return !m_redo.empty(); }
-    void Undo() { Travel(m_undo, m_redo); }
-    void Redo() { Travel(m_redo, m_undo); }
-    void ForgetHistory() {
-        m_undo.clear();
-        m_redo.clear();
-    }
+    bool CanUndo() const { return m_history.CanUndo(); }
+    bool CanRedo() const { return m_history.CanRedo(); }
+    void Undo() { m_history.Undo(&m_shown); }
+    void Redo() { m_history.Redo(&m_shown); }
+    void ForgetHistory() { m_history.Forget(); }
 
 private:
-    void Travel(std::vector<std::vector<int>> &from, std::vector<std::vector<int>> &to) {
-        to.push_back(m_shown);
-        m_shown = from.back();
-        from.pop_back();
-    }
-
-    std::vector<std::vector<int>> m_undo, m_redo;
+    CopiedHistory<std::vector<int>> m_history;
 };
