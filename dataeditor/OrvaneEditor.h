@@ -96,7 +96,8 @@ public:
     void AttachColourSet(CString field, CPoint set);
     void DetachColourSet(CString field);
     CPoint GetColourSet(CString field);
-    void GetColourSets(CArray<CPoint, CPoint &> *sets);
+    // By field number; (-1, -1) where there is none. Untouched with no source.
+    void GetColourSets(CArray<CPoint, CPoint> *sets);
 
     // --- Notifications
     void OnSetup() override;

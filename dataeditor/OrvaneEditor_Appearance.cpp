@@ -149,7 +149,15 @@ CPoint COrvaneEditor::GetColourSet(CString field) {
     return m_pLayout->GetColourSet(field);
 }
 
-void COrvaneEditor::GetColourSets(CArray<CPoint, CPoint &> *sets) {
-    if (CUGDataSource *source = GetCurrentDataSrc(false))
-        m_pLayout->GetColourSetsByField(source, *sets);
+void COrvaneEditor::GetColourSets(CArray<CPoint, CPoint> *sets) {
+    RunCommand([&] {
+        CUGDataSource *source = GetCurrentDataSrc(false);
+        if (source == nullptr)
+            return;
+        CArray<CPoint, CPoint &> byField;
+        m_pLayout->GetColourSetsByField(source, byField);
+        sets->SetSize(byField.GetSize());
+        for (int field = 0; field < byField.GetSize(); ++field)
+            sets->SetAt(field, byField.GetAt(field));
+    });
 }

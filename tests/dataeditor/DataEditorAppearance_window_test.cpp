@@ -174,7 +174,7 @@ TEST_F(DataEditorAppearanceTest, ColourSetsAreKeptForTheHost) {
     EXPECT_EQ(-1, editor.GetColourSet("F1").x);
     editor.AttachColourSet("F1", CPoint(3, 4));
     EXPECT_EQ(4, editor.GetColourSet("F1").y);
-    CArray<CPoint, CPoint &> sets;
+    CArray<CPoint, CPoint> sets; // as hosts have it
     editor.GetColourSets(&sets);
     EXPECT_EQ("-1 3 -1", std::to_string(sets.GetAt(0).x) + " " + std::to_string(sets.GetAt(1).x) + " " +
                              std::to_string(sets.GetAt(2).x));
