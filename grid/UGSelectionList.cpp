@@ -91,49 +91,28 @@ bool CUGSelectionList::BoxOfBlocks(Block *box) const {
     return true;
 }
 
-// The first selected column of [from, to] in a row. From one column that decides the next one to look at is where a
-// block begins or ends.
+// The first selected column of a row on the way from one column to another, to the right or to the left. From one
+// column that decides the next one to look at is where a block begins or ends.
 bool CUGSelectionList::FindInRow(long row, int from, int to, int *found) const {
-    for (long long col = from; col <= to;) {
-        long long next = to + 1LL;
+    const int step = from <= to ? 1 : -1;
+    const auto ahead = [step](long long one, long long other) { return (one - other) * step > 0; };
+    for (long long col = from; !ahead(col, to);) {
+        long long next = to + static_cast<long long>(step);
+        const auto stopAt = [&](long long stop) { next = ahead(next, stop) ? stop : next; };
         bool selected = false;
         for (auto block = m_blocks.rbegin(); block != m_blocks.rend(); ++block) {
             if (row < block->top || row > block->bottom)
                 continue;
+            const int begin = step > 0 ? block->left : block->right;
+            const int end = step > 0 ? block->right : block->left;
             if (block->Contains(static_cast<int>(col), row, m_mode)) {
                 selected = block->selected;
                 if (m_mode != UG_SELECT_ROWS)
-                    next = std::min(next, block->right + 1LL);
+                    stopAt(end + static_cast<long long>(step));
                 break;
             }
-            if (block->left > col)
-                next = std::min<long long>(next, block->left);
-        }
-        if (selected) {
-            *found = static_cast<int>(col);
-            return true;
-        }
-        col = next;
-    }
-    return false;
-}
-
-// The same from the right: the last selected column of [from, to].
-bool CUGSelectionList::FindInRowBack(long row, int from, int to, int *found) const {
-    for (long long col = to; col >= from;) {
-        long long next = from - 1LL;
-        bool selected = false;
-        for (auto block = m_blocks.rbegin(); block != m_blocks.rend(); ++block) {
-            if (row < block->top || row > block->bottom)
-                continue;
-            if (block->Contains(static_cast<int>(col), row, m_mode)) {
-                selected = block->selected;
-                if (m_mode != UG_SELECT_ROWS)
-                    next = std::max(next, block->left - 1LL);
-                break;
-            }
-            if (block->right < col)
-                next = std::max<long long>(next, block->right);
+            if (ahead(begin, col))
+                stopAt(begin);
         }
         if (selected) {
             *found = static_cast<int>(col);
@@ -166,7 +145,7 @@ bool CUGSelectionList::GetBounds(int *left, long *top, int *right, long *bottom)
     for (long row = box.top;; ++row) {
         const long last = std::min(LastLike(row), box.bottom);
         int first, end;
-        if (FindInRow(row, box.left, box.right, &first) && FindInRowBack(row, box.left, box.right, &end)) {
+        if (FindInRow(row, box.left, box.right, &first) && FindInRow(row, box.right, box.left, &end)) {
             *left = any ? std::min(*left, first) : first;
             *right = any ? std::max(*right, end) : end;
             *top = any ? *top : row;

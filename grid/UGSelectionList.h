@@ -54,7 +54,6 @@ public:
 private:
     bool BoxOfBlocks(Block *box) const;
     bool FindInRow(long row, int from, int to, int *found) const;
-    bool FindInRowBack(long row, int from, int to, int *found) const;
     long LastLike(long row) const;
     int EnumFrom(long long col, long row, int *foundCol, long *foundRow);
 
