@@ -143,6 +143,7 @@ protected:
     BOOL OnCreateClient(LPCREATESTRUCT cs, void *context) override;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    void OnDestroy();
     void OnUpdateMDIWindowCmd(CCmdUI *cmdUI);
     BOOL OnMDIWindowCmd(UINT id);
     DECLARE_MESSAGE_MAP()
@@ -199,7 +200,7 @@ protected:
     virtual void OnDraw(CDC *dc) = 0;
     virtual void OnInitialUpdate() {}
     virtual void OnActivateView(BOOL activate, CView *activated, CView *deactivated);
-    void PostNcDestroy() override { delete this; }
+    void PostNcDestroy() override;
     void OnPaint();
     void OnDestroy();
     int OnMouseActivate(CWnd *desktop, UINT hitTest, UINT message);

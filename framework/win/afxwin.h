@@ -3,7 +3,8 @@
 // Differences from MFC: all windows belong to one thread, so the handle maps are the process's. A method
 // cannot be called through a null pointer, GetSafeHwnd included. The system's macro LoadString is undefined
 // in favour of CString's member; the function is LoadStringA. There is no help system, no printing and no
-// document or template architecture. Message handlers are named &Class::Handler in the maps.
+// document or template architecture. The object of a frame or view whose window goes in a message loop within one of
+// its handlers lives until that handler is done. Message handlers are named &Class::Handler in the maps.
 #pragma once
 
 #include <afx.h>

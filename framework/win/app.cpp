@@ -261,11 +261,17 @@ void AfxWinTerm() {
     AfxDeleteTempObjects();
 }
 
+// The start may open windows, and show boxes in which they are closed.
+static BOOL StartInstance(CWinApp *app) {
+    const AfxHandlerScope atWork;
+    return app->InitInstance();
+}
+
 int AfxWinMain(HINSTANCE instance, HINSTANCE previous, LPSTR commandLine, int show) {
     CWinApp *app = AfxGetApp();
     int code = -1;
     if (app && AfxWinInit(instance, previous, commandLine, show) && app->InitApplication()) {
-        if (app->InitInstance()) {
+        if (StartInstance(app)) {
             code = app->Run();
         } else {
             if (app->m_pMainWnd)

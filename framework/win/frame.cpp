@@ -1,4 +1,5 @@
 #include "afxwin.h"
+#include "threadstate.h"
 
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 
@@ -51,7 +52,7 @@ CFrameWnd::CFrameWnd()
 CFrameWnd::~CFrameWnd() {}
 
 void CFrameWnd::PostNcDestroy() {
-    delete this;
+    AfxDeleteAfterHandlers(this);
 }
 
 BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT &cs) {

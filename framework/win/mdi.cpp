@@ -4,6 +4,7 @@ IMPLEMENT_DYNCREATE(CMDIFrameWnd, CFrameWnd)
 IMPLEMENT_DYNCREATE(CMDIChildWnd, CFrameWnd)
 
 BEGIN_MESSAGE_MAP(CMDIFrameWnd, CFrameWnd)
+ON_WM_DESTROY()
 ON_UPDATE_COMMAND_UI_RANGE(ID_WINDOW_ARRANGE, ID_WINDOW_TILE_VERT, &CMDIFrameWnd::OnUpdateMDIWindowCmd)
 ON_COMMAND_EX_RANGE(ID_WINDOW_ARRANGE, ID_WINDOW_TILE_VERT, &CMDIFrameWnd::OnMDIWindowCmd)
 END_MESSAGE_MAP()
@@ -77,6 +78,16 @@ CMenu *CMDIFrameWnd::MDISetMenu(CMenu *frameMenu, CMenu *windowMenu) {
 CFrameWnd *CMDIFrameWnd::GetActiveFrame() {
     CMDIChildWnd *child = MDIGetActive();
     return child ? static_cast<CFrameWnd *>(child) : this;
+}
+
+// The children go while the client still knows them: some systems look at its list once more for each, after it was freed.
+void CMDIFrameWnd::OnDestroy() {
+    while (const HWND child = ::GetWindow(m_hWndMDIClient, GW_CHILD)) {
+        ::SendMessage(m_hWndMDIClient, WM_MDIDESTROY, reinterpret_cast<WPARAM>(child), 0);
+        if (::GetWindow(m_hWndMDIClient, GW_CHILD) == child)
+            break;
+    }
+    CFrameWnd::OnDestroy();
 }
 
 LRESULT CMDIFrameWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

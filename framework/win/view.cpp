@@ -1,4 +1,5 @@
 #include "afxwin.h"
+#include "threadstate.h"
 
 IMPLEMENT_DYNAMIC(CView, CWnd)
 
@@ -13,6 +14,10 @@ BOOL CView::PreCreateWindow(CREATESTRUCT &cs) {
         cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
                                            reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
     return TRUE;
+}
+
+void CView::PostNcDestroy() {
+    AfxDeleteAfterHandlers(this);
 }
 
 void CView::OnPaint() {

@@ -4,6 +4,7 @@
 #include "threadstate.h"
 
 #include <exception>
+#include <functional>
 #include <set>
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
@@ -86,6 +87,32 @@ ThreadState &AfxThreadState() {
     return state;
 }
 
+// The system ends the fault of a window procedure that it called itself, and goes on as if that had returned. What of it
+// is left in the chain lies below the present one on the stack.
+AfxHandlerScope::AfxHandlerScope() : m_outer(AfxThreadState().handler) {
+    while (m_outer != nullptr && std::less<>()(m_outer, this))
+        m_outer = m_outer->m_outer;
+    AfxThreadState().handler = this;
+}
+
+AfxHandlerScope::~AfxHandlerScope() {
+    ThreadState &state = AfxThreadState();
+    state.handler = m_outer;
+    if (m_outer != nullptr)
+        return;
+    // A destructor may end further windows.
+    for (std::vector<CWnd *> doomed; !state.doomed.empty(); doomed.clear()) {
+        doomed.swap(state.doomed);
+        for (CWnd *wnd : doomed)
+            delete wnd;
+    }
+}
+
+void AfxDeleteAfterHandlers(CWnd *wnd) {
+    const AfxHandlerScope atOnceWithoutOne;
+    AfxThreadState().doomed.push_back(wnd);
+}
+
 void AfxDeleteTempObjects() {
     CDC::DeleteTempMap();
     CGdiObject::DeleteTempMap();
@@ -97,6 +124,7 @@ void AfxDeleteTempObjects() {
 // through the system's own frames.
 LRESULT AfxCallWndProc(CWnd *wnd, HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
     ThreadState &state = AfxThreadState();
+    const AfxHandlerScope atWork;
     const MSG outer = state.lastSentMessage;
     const MSG inner = {hWnd, message, wParam, lParam, 0, {0, 0}};
     state.lastSentMessage = inner;

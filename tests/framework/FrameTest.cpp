@@ -24,6 +24,7 @@ public:
     ~TestFrame() override { living--; }
     CStatusBar bar;
     TestView *view = nullptr;
+    bool goes = false; // in its own command
 
 protected:
     BOOL OnCreateClient(LPCREATESTRUCT, void *) override {
@@ -32,7 +33,13 @@ protected:
         return view->Create(nullptr, nullptr, WS_VISIBLE, CRect(0, 0, 0, 0), this, AFX_IDW_PANE_FIRST) &&
                bar.Create(this) && bar.SetIndicators(kPanes, 2);
     }
-    afx_msg void OnOne() { g_log += "frame:one "; }
+    afx_msg void OnOne() {
+        g_log += "frame:one ";
+        if (!goes)
+            return;
+        ::DestroyWindow(m_hWnd);
+        g_log += living > 0 ? "living " : "dead ";
+    }
     afx_msg void OnTwo() { g_log += "frame:two "; }
     afx_msg void OnUpdateOne(CCmdUI *cmdUI) { cmdUI->SetCheck(); }
     DECLARE_MESSAGE_MAP()
@@ -86,6 +93,16 @@ TEST_F(Frame, CommandsGoToTheViewThenTheFrame) {
     frame->SendMessage(WM_COMMAND, ID_TEST_ONE);
     EXPECT_EQ(g_log, "frame:two view:two frame:one ");
     EXPECT_EQ(frame->GetActiveView(), frame->view);
+}
+
+TEST_F(Frame, ObjectsOutliveTheirWindowsUntilTheirHandlersAreDone) {
+    frame->goes = true;
+    const HWND window = frame->m_hWnd;
+    ::SendMessage(window, WM_COMMAND, ID_TEST_ONE, 0);
+    EXPECT_EQ(g_log, "frame:one living ");
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(TestFrame::living, 0);
+    SetUp();
 }
 
 namespace {
