@@ -9,6 +9,10 @@ if(WIN32)
     target_compile_options(orvane_options INTERFACE -Wno-restrict)
     # The A interfaces throughout; the least version that holds what the windows use.
     target_compile_definitions(orvane_options INTERFACE WINVER=0x0601 _WIN32_WINNT=0x0601 NOMINMAX)
+    # What ships ends at once where the stack or a buffer of known size is written past; the code for it is linked in.
+    target_compile_options(orvane_options INTERFACE -fstack-protector-strong)
+    target_compile_definitions(orvane_options INTERFACE $<$<OR:$<CONFIG:Release>,$<BOOL:${ORVANE_CHECKED}>>:_FORTIFY_SOURCE=2>)
+    target_link_libraries(orvane_options INTERFACE -l:libssp.a -l:libssp_nonshared.a)
     if(ORVANE_CHECKED)
         target_compile_options(orvane_options INTERFACE
             -O1 -g1 -fno-omit-frame-pointer

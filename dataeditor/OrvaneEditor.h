@@ -177,6 +177,7 @@ private:
     void WriteCellText(int col, long row, const char *text);
     void FindNext(const CFindReplaceData &data);
     bool IsAfterLastRecord(UINT key, int step);
+    bool SetSourceOption(int option, long value);
     void GotoRecord(long record);
     void DeleteFilteredRecords(CUGDataSource *source);
     void FreezeColumns(int wanted);

@@ -48,14 +48,21 @@ bool COrvaneEditor::RecPassesFilter(long record) {
 
 void COrvaneEditor::SetUseFilteredRecords(bool use) {
     m_bUseFilteredRecords = use;
-    if (CUGDataSource *source = GetCurrentDataSrc(false))
-        source->SetOption(kFilteredOnly, use ? 1 : 0, 0);
+    SetSourceOption(kFilteredOnly, use ? 1 : 0);
+}
+
+// The source is asked for anew each time: a host may have closed it while it asked. Attaching may take long.
+bool COrvaneEditor::SetSourceOption(int option, long value) {
+    CUGDataSource *source = GetCurrentDataSrc(false);
+    if (source == nullptr)
+        return false;
+    const SourceWork attaching(this, source);
+    return source->SetOption(option, value, 0) == GRID_SUCCESS;
 }
 
 void COrvaneEditor::OnAttachFilter(int number) {
     RunCommand([&] {
-        CUGDataSource *source = GetCurrentDataSrc(false);
-        if (source != nullptr && source->SetOption(kAttachFilter, number, 0) == GRID_SUCCESS)
+        if (SetSourceOption(kAttachFilter, number))
             m_nFilter = number;
         RedrawAll();
     });
@@ -66,8 +73,7 @@ void COrvaneEditor::OnSelectAttachFilter() {
         int number = kNoFilter;
         if (GetCurrentDataSrc(false) == nullptr || !ms_pAppInterface->SelectFilter(&number))
             return;
-        CUGDataSource *source = GetCurrentDataSrc(false); // the host may have closed it while it asked
-        if (source == nullptr || source->SetOption(kAttachFilter, number, 0) != GRID_SUCCESS)
+        if (!SetSourceOption(kAttachFilter, number))
             return;
         m_nFilter = number;
         RedrawAll();
@@ -80,8 +86,7 @@ void COrvaneEditor::OnEditFilter() {
         const int number = m_nFilter < kDefaultFilter ? kDefaultFilter : m_nFilter;
         const bool edited =
             GetCurrentDataSrc(false) != nullptr && ms_pAppInterface->EditFilter(number, m_strFilePath);
-        CUGDataSource *source = GetCurrentDataSrc(false);
-        if (edited && source != nullptr && source->SetOption(kAttachFilter, kDefaultFilter, 0) == GRID_SUCCESS)
+        if (edited && SetSourceOption(kAttachFilter, kDefaultFilter))
             m_nFilter = kDefaultFilter;
         RedrawAll();
     });
@@ -89,8 +94,7 @@ void COrvaneEditor::OnEditFilter() {
 
 void COrvaneEditor::OnDetachFilter() {
     RunCommand([&] {
-        CUGDataSource *source = GetCurrentDataSrc(false);
-        if (source != nullptr && source->SetOption(kDetachFilter, 0, 0) == GRID_SUCCESS)
+        if (SetSourceOption(kDetachFilter, 0))
             m_nFilter = kNoFilter;
         RedrawAll();
     });
@@ -249,11 +253,17 @@ void COrvaneEditor::OnDeleteRows() {
 void COrvaneEditor::DeleteFilteredRecords(CUGDataSource *source) {
     const CPaintingScope quiet(this);
     const bool inMemory = RunInMemory([&] {
-        if (source->DeleteRows(-1, -1) != GRID_SUCCESS)
+        int result;
+        {
+            const SourceWork deleting(this, source);
+            result = source->DeleteRows(-1, -1);
+        }
+        if (result != GRID_SUCCESS)
             AfxMessageBox("Error while deleting filtered records!", MB_ICONHAND);
         OnEditNotify();
     });
-    SetNumberRows(source->GetNumRows(), 1);
+    if (GetCurrentDataSrc(false) == source)
+        SetNumberRows(source->GetNumRows(), 1);
     if (!inMemory)
         ReportOutOfMemory();
 }

@@ -37,7 +37,10 @@ LRESULT COrvaneEditor::OnFindNext(WPARAM wParam, LPARAM) {
 
 void COrvaneEditor::FindNext(const CFindReplaceData &data) {
     const CWaitCursorScope wait(ms_pAppInterface);
+    const bool open = GetCurrentDataSrc(false) != nullptr;
     SaveEditContents();
+    if (open && GetCurrentDataSrc(false) == nullptr)
+        return; // closed while the edit's own question was up
     const int current = GetCurrentCol();
     m_FindData = data;
     m_bCanFindAgain = true;

@@ -272,7 +272,10 @@ void COrvaneEditor::EnterPickListText(const char *text) {
     m_nPickListRow = GetCurrentRow();
     const bool inMemory = settled && RunInMemory([&] { WriteCellText(m_nPickListCol, m_nPickListRow, text); });
     PumpDroppingClicks();
-    m_nPickListTimer = SetTimer(kPickListTimerId, kPickListRestMs, nullptr); // it lets the grid paint again
+    // It lets the grid paint again. Settling may have asked, and the window be gone.
+    m_nPickListTimer = GetSafeHwnd() != nullptr ? SetTimer(kPickListTimerId, kPickListRestMs, nullptr) : 0;
+    if (m_nPickListTimer == 0)
+        EnablePainting(1);
     OnEditNotify();
     if (!inMemory)
         ReportOutOfMemory();

@@ -260,7 +260,10 @@ void COrvaneEditor::DoReplace(int col, const char *find, const char *replace, co
                               bool matchCase) {
     CEditCommandGuard guard(this);
     RunCommand([&] {
+        const bool open = GetCurrentDataSrc(false) != nullptr;
         SettleEdit(); // a box would write over what is replaced in its cell
+        if (open && GetCurrentDataSrc(false) == nullptr)
+            return; // closed while the edit's own question was up
         std::optional<CWaitCursorScope> wait; // ends after the group of the source's undo
         ReplaceRun run{find, replace, direction, matchCase};
         if (!PrepareReplace(&run, col, direction))

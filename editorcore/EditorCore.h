@@ -67,7 +67,7 @@ public:
     virtual void SetTextAlignment();
 
     // --- Open, close, save
-    // False when the source refuses, or while a close is under way already; everything is as it was then.
+    // False when the source refuses, or while it is at work, as in a close; everything is as it was then.
     bool CloseDataSource(bool argument);
     void OnSave(int unused);
     // `filtered` with a filter number of 0 or more saves the filtered records only.
@@ -247,6 +247,20 @@ protected:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
 
+    // Work of the source's that may ask or take long: what its questions and looks let through must not delete it.
+    // Meanwhile the table is not closed, and whoever destroys the editor leaves the source to be deleted here.
+    struct ORVANE_API SourceWork {
+        SourceWork(CEditorCore *worked, CUGDataSource *atWork);
+        ~SourceWork();
+        SourceWork(const SourceWork &) = delete;
+        SourceWork &operator=(const SourceWork &) = delete;
+
+        CEditorCore *editor;
+        CUGDataSource *source; // null while it is not at work
+        bool outermost;
+        bool editorGone = false;
+    };
+
     static void ReportOutOfMemory();
     // True when a stored layout for the table is at hand. Reading makes the layout file where there is none.
     bool Serialize(bool store);
@@ -315,23 +329,7 @@ private:
     void ShowTable(const char *path, const char *table);
     void AbandonLoad();
     void DropSource();
-    // A close under way. Whoever destroys the editor meanwhile leaves the source, which is at work, to be deleted here.
-    struct Closing {
-        explicit Closing(CEditorCore *closed) : editor(closed) { editor->m_pClosing = this; }
-        ~Closing() {
-            if (editorGone)
-                delete source;
-            else
-                editor->m_pClosing = nullptr;
-        }
-        Closing(const Closing &) = delete;
-        Closing &operator=(const Closing &) = delete;
-
-        CEditorCore *editor;
-        CUGDataSource *source = nullptr; // null while it is not at work
-        bool editorGone = false;
-    };
-    bool CloseSource(bool argument, Closing *closing);
+    bool CloseSource(bool argument, SourceWork *closing);
     void LeaveTable();
     void GoToFirstCell();
     void ForgetHeadingSelection();
@@ -369,6 +367,8 @@ private:
     bool InsertRecords(CUGDataSource *source, long row, long count, bool waitCursor);
     bool DeleteRecords(CUGDataSource *source, long firstRow, long lastRow);
     void DeleteChosenRows(long firstRow, long count, bool toClipboard);
+    // False when there is none, which was told.
+    bool TakeClipboardText(CString *text);
     bool SaveRowsToClipboard(long firstRow, long lastRow);
     bool AskForRecords(const char *title, const char *prompt, long *count);
     void ShowRowsOfSource();
@@ -398,7 +398,7 @@ private:
     int ShownColumnFrom(int col, int step);
 
     CUGDataSource *m_pSource = nullptr; // owned while it is in the slot m_nDataSrcIndex of the grid's table
-    Closing *m_pClosing = nullptr;      // while the table is being closed
+    SourceWork *m_pSourceWork = nullptr; // the outermost
     int m_nColsToLock = 0;              // asked for; there may be fewer columns
     bool m_bSavingEdit = false;         // SaveEditContents tells the title itself
     bool m_bTitleAwaitsWrite = false;   // the edit being finished changes its cell

@@ -44,7 +44,8 @@ private:
     bool m_open;
 };
 
-// The clipboard's text while the clipboard is open; null when it holds none.
+// The clipboard's text while the clipboard is open; null when it holds none. Another program put it there, and may have
+// left out the zero byte at its end.
 class ClipboardLock {
 public:
     ClipboardLock()
@@ -56,7 +57,14 @@ public:
     }
     ClipboardLock(const ClipboardLock &) = delete;
     ClipboardLock &operator=(const ClipboardLock &) = delete;
-    const char *Text() const { return m_text; }
+    // False where there is none.
+    bool CopyTo(CString *text) const {
+        if (m_text == nullptr)
+            return false;
+        const size_t most = std::min<size_t>(::GlobalSize(m_handle), INT_MAX);
+        text->SetString(m_text, static_cast<int>(::strnlen(m_text, most)));
+        return true;
+    }
 
 private:
     HGLOBAL m_handle;
@@ -160,32 +168,31 @@ int CEditorCore::CopyFromClipBoard(CString *text) {
     OpenedClipboard clipboard(GetSafeHwnd());
     if (!clipboard)
         return GRID_ERROR;
-    const ClipboardLock data;
-    if (data.Text() == nullptr)
-        return GRID_ERROR;
-    *text = data.Text();
-    return GRID_SUCCESS;
+    return ClipboardLock().CopyTo(text) ? GRID_SUCCESS : GRID_ERROR;
+}
+
+bool CEditorCore::TakeClipboardText(CString *text) {
+    const char *refusal = nullptr;
+    {
+        OpenedClipboard clipboard(GetSafeHwnd());
+        if (!clipboard)
+            refusal = "Could not open clipboard!";
+        else if (!ClipboardLock().CopyTo(text))
+            refusal = "Could not get clipboard data!";
+    }
+    if (refusal != nullptr)
+        AfxMessageBox(refusal, MB_ICONHAND, 0);
+    return refusal == nullptr;
 }
 
 bool CEditorCore::GetClipBoardDataInfo(int *cols, long *rows) {
-    OpenedClipboard clipboard(GetSafeHwnd());
-    if (!clipboard) {
-        AfxMessageBox("Could not open clipboard!", MB_ICONHAND, 0);
+    CString text;
+    if (!TakeClipboardText(&text))
         return false;
-    }
-    *cols = 1;
-    *rows = 1;
-    {
-        const ClipboardLock data;
-        if (data.Text() != nullptr) {
-            const ClipboardText::Size size = ClipboardText::Measure(data.Text());
-            *cols = size.cols;
-            *rows = size.rows;
-            return true;
-        }
-    }
-    AfxMessageBox("Could not get clipboard data!", MB_ICONHAND, 0);
-    return false;
+    const ClipboardText::Size size = ClipboardText::Measure(text);
+    *cols = size.cols;
+    *rows = size.rows;
+    return true;
 }
 
 // --- The user's commands

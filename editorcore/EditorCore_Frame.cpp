@@ -138,14 +138,14 @@ CEditorCore::~CEditorCore() {
 void CEditorCore::DropSource() {
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (source != nullptr) {
-        if (m_bDataSrcOpen && m_pClosing == nullptr)
+        if (m_bDataSrcOpen && m_pSourceWork == nullptr)
             source->Close(false);
         RemoveDataSource(m_nDataSrcIndex);
         m_GI.m_currentSource = 0;
     }
-    if (m_pClosing != nullptr)
-        m_pClosing->editorGone = true; // the close that is under way deletes the source
-    if (m_pClosing == nullptr || m_pClosing->source == nullptr)
+    if (m_pSourceWork != nullptr)
+        m_pSourceWork->editorGone = true; // the work that is under way deletes the source
+    if (m_pSourceWork == nullptr || m_pSourceWork->source == nullptr)
         delete source;
     m_bDataSrcOpen = false;
     m_pSource = nullptr;

@@ -76,7 +76,9 @@ bool CEditorCore::AbortOperation() {
         m_bAbortRequested = false;
         return true;
     }
-    return ms_pAppInterface->CheckAbort() != 0;
+    const bool shown = GetSafeHwnd() != nullptr;
+    const SourceWork looking(this, GetCurrentDataSrc(false)); // the look may let a close through
+    return ms_pAppInterface->CheckAbort() != 0 || (shown && GetSafeHwnd() == nullptr);
 }
 
 int CEditorCore::DisplayNoUndoMessage() {

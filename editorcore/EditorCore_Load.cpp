@@ -126,12 +126,25 @@ void CEditorCore::PumpDroppingClicks() {
     });
 }
 
+CEditorCore::SourceWork::SourceWork(CEditorCore *worked, CUGDataSource *atWork)
+    : editor(worked), source(atWork), outermost(worked->m_pSourceWork == nullptr) {
+    if (outermost)
+        editor->m_pSourceWork = this;
+}
+
+CEditorCore::SourceWork::~SourceWork() {
+    if (editorGone)
+        delete source;
+    else if (outermost)
+        editor->m_pSourceWork = nullptr;
+}
+
 bool CEditorCore::CloseDataSource(bool argument) {
     if (!m_bDataSrcOpen)
         return true;
-    if (m_pClosing != nullptr)
-        return false; // asked again from within a question of the source's, which is still at work
-    Closing closing(this);
+    if (m_pSourceWork != nullptr)
+        return false; // asked from within a question of the source's
+    SourceWork closing(this, nullptr);
     const bool closed = CloseSource(argument, &closing);
     if (closing.editorGone)
         return true;
@@ -142,7 +155,7 @@ bool CEditorCore::CloseDataSource(bool argument) {
 }
 
 // Ends the edit and asks the source. The editor may be gone afterwards: a question pumps messages.
-bool CEditorCore::CloseSource(bool argument, Closing *closing) {
+bool CEditorCore::CloseSource(bool argument, SourceWork *closing) {
     if (GetEditControl() != nullptr)
         SaveEditContents();
     if (closing->editorGone)
@@ -181,7 +194,7 @@ CUGDataSource *CEditorCore::GetCurrentDataSrc(bool complain) {
     // An empty slot answers with the grid's own store, and another source may be in it by now.
     CUGDataSource *source =
         m_pSource != nullptr && GetDataSource(m_nDataSrcIndex) == m_pSource ? m_pSource : nullptr;
-    if (source == nullptr && complain)
+    if (source == nullptr && complain && GetSafeHwnd() != nullptr) // with its window gone nobody asked
         AfxMessageBox("Could not get data source!", MB_ICONHAND, 0);
     return source;
 }

@@ -113,9 +113,15 @@ void CEditorCore::OnPaste() {
     CEditCommandGuard guard(this);
     if (IsGridReadOnly())
         return;
-    PasteBlock block;
-    if (!GetClipBoardDataInfo(&block.cols, &block.rows))
+    // Read once: another program may change it meanwhile.
+    CString text;
+    bool taken = false;
+    if (!RunInMemory([&] { taken = TakeClipboardText(&text); }))
+        ReportOutOfMemory();
+    if (!taken)
         return;
+    const ClipboardText::Size size = ClipboardText::Measure(text);
+    PasteBlock block{size.cols, size.rows};
     if (CEdit *edit = GetEditControl()) {
         if (block.Cells() <= 1) {
             edit->SendMessage(WM_PASTE, 0, 0);
@@ -132,7 +138,7 @@ void CEditorCore::OnPaste() {
     const bool inMemory = RunInMemory([&] {
         const CTransactionScope oneStep(this);
         if (MakeRoomForPaste(source, block))
-            Paste();
+            Paste(text);
         else
             waiting.LeaveRaised();
     });

@@ -39,6 +39,7 @@ void CEditorCore::AppendRecord(int col) {
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (source == nullptr || source->AppendRow() != GRID_SUCCESS)
         AfxMessageBox("Could not add record to data source!", MB_ICONHAND, 0);
+    source = GetCurrentDataSrc(false); // a host may have closed it while that was said
     ShowRowsOfSource();
     const long last = (source != nullptr ? source->GetNumRows() : GetNumberRows()) - 1;
     RedrawRow(last);
@@ -90,6 +91,7 @@ bool CEditorCore::InsertRecords(CUGDataSource *source, long row, long count, boo
     bool done = false;
     {
         const CWaitCursorScope waiting(ms_pAppInterface, waitCursor);
+        const SourceWork inserting(this, source);
         done = atEnd ? AppendRows(source, count) : source->InsertRows(row, count) == GRID_SUCCESS;
     }
     if (!done) {
@@ -188,11 +190,16 @@ bool CEditorCore::DeleteRecords(CUGDataSource *source, long firstRow, long lastR
         AfxMessageBox("Could not remove rows from grid!", MB_ICONHAND, 0);
         return false;
     }
-    const int result = source->DeleteRows(firstRow, count);
+    int result;
+    {
+        const SourceWork deleting(this, source);
+        result = source->DeleteRows(firstRow, count);
+    }
     waiting.End();
     if (result != GRID_SUCCESS) {
         AfxMessageBox("Could not delete records!", MB_ICONHAND, 0);
-        SetNumberRows(rowsBefore, 1);
+        if (GetCurrentDataSrc(false) != nullptr)
+            SetNumberRows(rowsBefore, 1);
         NotifyEdited();
         return false;
     }

@@ -76,6 +76,7 @@ void CEditorCore::OnSave(int) {
     if (GetEditControl() != nullptr)
         SaveEditContents();
     if (CUGDataSource *source = GetCurrentDataSrc(true)) {
+        const SourceWork saving(this, source);
         source->Save(); // a failure is told by the source
         UpdateTitle();
     }
@@ -135,6 +136,7 @@ bool CEditorCore::OnSaveAs(const CString &newPath, bool filtered, int filterNumb
 bool CEditorCore::SaveUnderNewPath(CUGDataSource *source, const CString &newPath, const CString &options) {
     {
         CPaintingScope quiet(this);
+        const SourceWork saving(this, source);
         if (source->SaveAs(newPath, options) != GRID_SUCCESS) {
             CString text;
             text.Format("Could not save %s!", static_cast<const char *>(newPath));

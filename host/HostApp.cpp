@@ -27,7 +27,21 @@ CHostApp *GetHostApp() {
 
 CHostApp::CHostApp() : CWinApp("Orvane Tables") {}
 
+// Nothing that goes wrong at the start leaves it: what there is of a frame stays, and says why.
 BOOL CHostApp::InitInstance() {
+    LoadLibrariesFromSafeFolders();
+    try {
+        return Start();
+    } catch (CException *e) {
+        e->ReportError(MB_ICONHAND);
+        e->Delete();
+    } catch (const std::exception &error) {
+        AfxMessageBox(error.what(), MB_ICONHAND);
+    }
+    return m_pMainWnd != nullptr;
+}
+
+BOOL CHostApp::Start() {
     SetRegistryKey("Orvane");
     constexpr UINT kRecentFiles = 8;
     LoadStdProfileSettings(kRecentFiles);
@@ -45,6 +59,13 @@ BOOL CHostApp::InitInstance() {
     if (!file.IsEmpty())
         OpenTable(file);
     return TRUE;
+}
+
+// Tables lie in folders that others can write to, and such a folder may be the current one: no library is taken from
+// there.
+void CHostApp::LoadLibrariesFromSafeFolders() {
+    ::SetDllDirectoryA("");
+    ::SetSearchPathMode(BASE_SEARCH_PATH_ENABLE_SAFE_SEARCHMODE | BASE_SEARCH_PATH_PERMANENT);
 }
 
 // With nothing left to do nothing is waited for.
@@ -68,9 +89,11 @@ CString CHostApp::CommandLineFile() const {
         argument = argument.Mid(1).SpanExcluding("\"");
     if (argument.IsEmpty())
         return argument;
-    char full[MAX_PATH];
-    const DWORD length = ::GetFullPathNameA(argument, MAX_PATH, full, nullptr);
-    return length > 0 && length < MAX_PATH ? CString(full) : argument;
+    CString full;
+    const DWORD room = ::GetFullPathNameA(argument, 0, nullptr, nullptr);
+    const DWORD length = room > 0 ? ::GetFullPathNameA(argument, room, full.GetBuffer(static_cast<int>(room)), nullptr) : 0;
+    full.ReleaseBuffer(length < room ? static_cast<int>(length) : 0);
+    return full.IsEmpty() ? argument : full;
 }
 
 void CHostApp::OnFileOpen() {
@@ -83,11 +106,37 @@ BOOL CHostApp::OpenRecentFile(LPCTSTR path) {
     return OpenTable(path);
 }
 
+// Cut short it would name another file.
+static bool IsPathShortEnough(const char *path) {
+    constexpr int kShown = 60;
+    const CString whole(path);
+    if (whole.GetLength() < MAX_PATH)
+        return true;
+    CString text;
+    text.Format("The path '%s...' has %d characters. Tables are opened by paths of up to %d.",
+                static_cast<const char *>(whole.Left(kShown)), whole.GetLength(), MAX_PATH - 1);
+    AfxMessageBox(text, MB_ICONEXCLAMATION);
+    return false;
+}
+
+// The look of the editors ends at one whose file is gone; the windows are all looked at.
+CChildFrame *CHostApp::FindOpenTable(const char *path) const {
+    const CEditorCore *open = CEditorCore::GetOpenFilesGrid(path);
+    const auto *frame = static_cast<const CMainFrame *>(m_pMainWnd);
+    for (HWND child = ::GetWindow(frame->m_hWndMDIClient, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        auto *table = DYNAMIC_DOWNCAST(CChildFrame, CWnd::FromHandlePermanent(child));
+        if (table != nullptr && (&table->Editor() == open || table->Editor().GetFilePath().CompareNoCase(path) == 0))
+            return table;
+    }
+    return nullptr;
+}
+
 bool CHostApp::OpenTable(const char *path) {
     const CUGValueScope<bool> opening(&m_opening, true);
-    if (CEditorCore *open = CEditorCore::GetOpenFilesGrid(path)) {
-        if (auto *child = DYNAMIC_DOWNCAST(CChildFrame, open->GetParent()))
-            child->MDIActivate();
+    if (!IsPathShortEnough(path))
+        return false;
+    if (CChildFrame *open = FindOpenTable(path)) {
+        open->MDIActivate();
         return true;
     }
     const auto *frame = static_cast<CMainFrame *>(m_pMainWnd);

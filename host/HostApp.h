@@ -5,6 +5,8 @@
 
 #include "host/HostService.h"
 
+class CChildFrame;
+
 class CHostApp : public CWinApp {
 public:
     CHostApp();
@@ -28,7 +30,11 @@ private:
     afx_msg void OnLookupUserOptions();
     afx_msg void OnLookupAdminOptions();
 
+    BOOL Start();
+    static void LoadLibrariesFromSafeFolders();
+    // The whole of it, however long.
     CString CommandLineFile() const;
+    CChildFrame *FindOpenTable(const char *path) const;
 
     CHostService m_service;
     bool m_opening = false; // a table

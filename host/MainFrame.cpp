@@ -97,20 +97,35 @@ void CMainFrame::SavePlacement() {
                                         sizeof placement);
 }
 
+// Whether the registry's bytes are a placement in which the user can take hold of the window. Where no display is any
+// more, the system's own place is better.
+static bool ReadPlacement(const BYTE *data, UINT bytes, WINDOWPLACEMENT *placement) {
+    constexpr LONG kLeastPx = 100, kMostPx = 32767;
+    if (bytes != sizeof *placement)
+        return false;
+    std::memcpy(placement, data, sizeof *placement);
+    placement->length = sizeof *placement;
+    placement->flags = 0;
+    if (placement->showCmd != SW_SHOWMAXIMIZED)
+        placement->showCmd = SW_SHOWNORMAL;
+    const RECT &place = placement->rcNormalPosition;
+    for (const LONG edge : {place.left, place.top, place.right, place.bottom}) {
+        if (edge < -kMostPx || edge > kMostPx)
+            return false;
+    }
+    const RECT caption = {place.left, place.top, place.right, place.top + ::GetSystemMetrics(SM_CYCAPTION)};
+    return place.right - place.left >= kLeastPx && place.bottom - place.top >= kLeastPx &&
+           ::MonitorFromRect(&caption, MONITOR_DEFAULTTONULL) != nullptr;
+}
+
 void CMainFrame::RestorePlacement(int show) {
     BYTE *data = nullptr;
     UINT bytes = 0;
+    WINDOWPLACEMENT placement;
     if (AfxGetApp()->GetProfileBinary(kSection, "Placement", &data, &bytes)) {
-        WINDOWPLACEMENT placement;
-        if (bytes == sizeof placement) {
-            std::memcpy(&placement, data, sizeof placement);
-            if (placement.showCmd == SW_SHOWMINIMIZED)
-                placement.showCmd = SW_SHOWNORMAL;
-            // Where no display is any more, the system's own place is better.
-            if (::MonitorFromRect(&placement.rcNormalPosition, MONITOR_DEFAULTTONULL) != nullptr) {
-                ::SetWindowPlacement(m_hWnd, &placement);
-                show = static_cast<int>(placement.showCmd);
-            }
+        if (ReadPlacement(data, bytes, &placement)) {
+            ::SetWindowPlacement(m_hWnd, &placement);
+            show = static_cast<int>(placement.showCmd);
         }
         delete[] data;
     }
@@ -121,8 +136,11 @@ void CMainFrame::OnDropFiles(HDROP drop) {
     SetActiveWindow();
     const UINT count = ::DragQueryFileA(drop, 0xFFFFFFFF, nullptr, 0);
     for (UINT i = 0; i < count; ++i) {
-        char path[MAX_PATH];
-        if (::DragQueryFileA(drop, i, path, MAX_PATH) > 0)
+        CString path;
+        const UINT length = ::DragQueryFileA(drop, i, nullptr, 0);
+        ::DragQueryFileA(drop, i, path.GetBuffer(static_cast<int>(length)), length + 1);
+        path.ReleaseBuffer();
+        if (!path.IsEmpty())
             GetHostApp()->OpenTable(path);
     }
     ::DragFinish(drop);

@@ -127,7 +127,12 @@ void CLookupOptionsMgr::OnSetAdminPassword() {
         CLookupAdminPasswordDlg dialog(kMaxPasswordLength);
         if (dialog.DoModal() != IDOK)
             return;
-        if (ScramblePassword(dialog.m_sPassword) && CLookupRegKey().SetAdminPassword(dialog.m_sPassword))
+        const bool scrambled = ScramblePassword(dialog.m_sPassword);
+        if (scrambled && dialog.m_sPassword.GetLength() < kMaxPasswordLength)
+            // A zero byte ended the form early, and many other passwords have the same.
+            AfxMessageBox("This password cannot be used, since its stored form would fit others too.\n"
+                          "Please choose another.", 0, 0);
+        else if (scrambled && CLookupRegKey().SetAdminPassword(dialog.m_sPassword))
             AfxMessageBox("New password successfully set!", MB_ICONASTERISK, 0);
         else
             AfxMessageBox("Could not set password!", MB_ICONHAND, 0);

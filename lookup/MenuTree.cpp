@@ -142,6 +142,11 @@ void CMenuTree::GetFullCode(CString &text, int childIndex) const {
 }
 
 void CMenuTree::CollectPaths(const CStringArrayEx &path, CArray<CStringArrayEx> &paths) const {
+    int count = 0;
+    for (CMenuPaths counted(this); counted.Next();) {
+        if (++count > kMostPaths)
+            AfxThrowMemoryException();
+    }
     CMenuPaths walk(this, path);
     while (walk.Next())
         paths.Add(walk.GetPath());

@@ -42,7 +42,9 @@ public:
     // Appends the codes from the first level down to this node, and the display code of the child.
     void GetFullCode(CString &text, int childIndex = -1) const;
     // Adds every path from this node down to a leaf: `path`, then the codes as they are, "!" included. Throws
-    // CMemoryException.
+    // CMemoryException, also for more than kMostPaths of them: lists that share their children multiply, so that a small
+    // file may tell of more paths than any memory holds. Nothing is added then.
+    static constexpr int kMostPaths = 4'000'000;
     void CollectPaths(const CStringArrayEx &path, CArray<CStringArrayEx> &paths) const;
 
     // Parts of a tree in this tree's memory, none of them linked to a node yet. They throw CMemoryException, and so

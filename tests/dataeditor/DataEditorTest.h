@@ -11,6 +11,8 @@ public:
 
     HWND Cells() const { return m_grid.GetSafeHwnd(); }
     HWND Edit() const { return m_grid.m_edit.GetSafeHwnd(); }
+    HWND TopHeading() const { return m_topHdg.GetSafeHwnd(); }
+    HWND SideHeading() const { return m_sideHdg.GetSafeHwnd(); }
     CEditorLayout *Layout() { return m_pLayout; }
     bool Navigate(UINT key) { return OnNavigateFilteredRecords(key); }
     int Locked() const { return m_nLockedCols; }

@@ -21,29 +21,39 @@ unsigned Setting(const char *name, unsigned otherwise) {
 
 class EditorRandomTest : public DataEditorTest {
 protected:
+    RunTable OpenTable(const std::string &path, const AsksToClose &asks) {
+        m_dataEditors.clear();
+        RunTable table;
+        auto owned = std::make_unique<RunEditor>(&m_log);
+        table.editor = owned.get();
+        m_dataEditors.push_back(std::move(owned));
+        table.editor->CreateGrid(WS_VISIBLE, CRect(0, 0, 500, 300), &m_host, 400);
+        CDbfDataSource::Hooks hooks;
+        hooks.message = [](const std::string &text) { AfxMessageBox(text.c_str()); };
+        hooks.rowsChanged = [editor = table.editor] { editor->OnDataSourceNotify(0, 1, 0); };
+        hooks.mayClose = asks;
+        table.source = new RefusingSource(hooks);
+        m_service.m_sources.push_back(table.source);
+        EXPECT_TRUE(table.editor->LoadData(path.c_str(), nullptr, kNoFilter, kEditNormal, nullptr));
+        Forget();
+        return table;
+    }
     void Run(unsigned seed, unsigned count) {
         const std::string path =
             MakeFile("table.dbf", DbfTableBytes(EditorRun::kFields, EditorRun::kRecords, EditorRun::kWidth,
                                                 std::string(EditorRun::kNumberField, 'C') + "N"));
         filter::FilterList filters;
         filters.put({EditorRun::kFilterNumber, "late", EditorRun::kFilter});
-        ASSERT_TRUE(filters.save(filter::FilterList::pathBeside(path), dbf::findCodePage(1252)));
-        auto owned = std::make_unique<RunEditor>(&m_log);
-        RunEditor &editor = *owned;
-        m_dataEditors.push_back(std::move(owned));
-        editor.CreateGrid(WS_VISIBLE, CRect(0, 0, 500, 300), &m_host, 400);
-        CDbfDataSource::Hooks hooks;
-        hooks.message = [](const std::string &text) { AfxMessageBox(text.c_str()); };
-        hooks.rowsChanged = [&editor] { editor.OnDataSourceNotify(0, 1, 0); };
-        auto *source = new RefusingSource(hooks);
-        m_service.m_sources.push_back(source);
-        ASSERT_TRUE(editor.LoadData(path.c_str(), nullptr, kNoFilter, kEditNormal, nullptr));
-        Forget();
-        EditorRun run(seed, &editor, source, &m_service, &m_log, &m_host);
+        for (const std::string &table : {path, PathOf("other.dbf"), PathOf("third.dbf")})
+            ASSERT_TRUE(filters.save(filter::FilterList::pathBeside(table), dbf::findCodePage(1252)));
+        EditorRun run(
+            seed, path, [this](const std::string &file, const AsksToClose &asks) { return OpenTable(file, asks); },
+            &m_service, &m_log, &m_host);
         std::deque<std::string> before; // the last events, oldest first
         for (unsigned number = 1; number <= count; ++number) {
             run.Next();
             const std::string broken = run.Broken();
+            ASSERT_FALSE(HasFailure()) << "seed " << seed << ", event " << number << ": " << run.Text();
             ASSERT_EQ("", broken) << "seed " << seed << ", event " << number << ": " << run.Text() << "\nafter\n  "
                                   << Join({before.begin(), before.end()}, "\n  ");
             before.push_back(run.Text());

@@ -25,6 +25,7 @@ const EditorRun::Event EditorRun::kEvents[] = {
     {1, &EditorRun::SizeRows},              {1, &EditorRun::ChangeFonts},       {1, &EditorRun::ResetView},
     {3, &EditorRun::EnterText},             {2, &EditorRun::PickText},          {1, &EditorRun::CutCells},
     {1, &EditorRun::InsertByDialog},        {1, &EditorRun::GoToRecord},        {1, &EditorRun::SaveUnderAnotherName},
+    {2, &EditorRun::Close},                 {4, &EditorRun::HearStranger},
     {0, nullptr},
 };
 

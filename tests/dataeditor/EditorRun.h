@@ -37,8 +37,19 @@ public:
         CDbfDataSource::EndTransaction();
     }
 
+    int Save() override { return Noted(CDbfDataSource::Save(), nullptr); }
+    int SaveAs(const char *name, const char *options) override { return Noted(CDbfDataSource::SaveAs(name, options), name); }
+
     bool m_refusesValues = false, m_refusesRows = false;
+    std::function<void(const char *)> m_onSaved; // under this name; null for the same
     int m_depth = 0; // of transactions
+
+private:
+    int Noted(int result, const char *name) {
+        if (result == GRID_SUCCESS && m_onSaved)
+            m_onSaved(name);
+        return result;
+    }
 };
 
 // Counts the boxes that it opens: a window's handle may be that of one before.
@@ -55,11 +66,20 @@ public:
     long m_edits = 0;
 };
 
+// What asks before changes are lost: true where the table may be closed.
+using AsksToClose = std::function<bool(CDbfDataSource &)>;
+
+struct RunTable {
+    RunEditor *editor = nullptr;
+    RefusingSource *source = nullptr;
+};
+
 class EditorRun {
 public:
+    // Opens the table of this path in an editor of its own, in place of the one before.
+    using Open = std::function<RunTable(const std::string &, const AsksToClose &)>;
     // `path` is a table of kFields fields, of which kNumberField holds numbers; its filter 1 is F0 >= 'm'.
-    EditorRun(unsigned seed, RunEditor *editor, RefusingSource *source, RecordingHost *service, CallLog *log,
-              HostWindow *window);
+    EditorRun(unsigned seed, const std::string &path, Open open, RecordingHost *service, CallLog *log, HostWindow *window);
     ~EditorRun();
     EditorRun(const EditorRun &) = delete;
     EditorRun &operator=(const EditorRun &) = delete;
@@ -129,6 +149,14 @@ private:
     void InsertByDialog();
     void GoToRecord();
     void SaveUnderAnotherName();
+    void Close();
+    void HearStranger();
+
+    // --- Closes
+    void OpenAnew();
+    bool MayClose(CDbfDataSource &source);
+    void DisturbQuestion();
+    Records RecordsOf(CDbfDataSource &source) const;
 
     // --- What the model is told
     bool BoxIsOpen() const { return m_editor->Edit() != nullptr; }
@@ -160,14 +188,18 @@ private:
     std::string BrokenState();
 
     SeededRandom m_random;
-    RunEditor *m_editor; // all borrowed
-    RefusingSource *m_source;
+    Open m_open;
+    std::string m_path;
+    Records m_saved;     // what the file holds
+    bool m_gone = false; // the table was closed, or its window destroyed, in the last event
+    RunEditor *m_editor = nullptr; // all borrowed
+    RefusingSource *m_source = nullptr;
     RecordingHost *m_service;
     CallLog *m_log;
     HostWindow *m_window;
     TableModel m_model;
     ViewModel m_view;
-    int m_answers[3] = {}; // to the questions that an event may bring
+    int m_answers[8] = {}; // to the questions that an event may bring
     int m_expected = 0;    // of them by the model,
     int m_answered = 0;    // and of those that came
     long m_edit = 0; // the number of the box that is open, the record and field that it belongs to

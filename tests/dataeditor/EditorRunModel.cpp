@@ -4,10 +4,11 @@
 #include <algorithm>
 #include <cstdarg>
 #include <cstdio>
+#include <iterator>
 
-EditorRun::EditorRun(unsigned seed, RunEditor *editor, RefusingSource *source, RecordingHost *service,
-                     CallLog *log, HostWindow *window)
-    : m_random(seed), m_editor(editor), m_source(source), m_service(service), m_log(log), m_window(window) {
+EditorRun::EditorRun(unsigned seed, const std::string &path, Open open, RecordingHost *service, CallLog *log,
+                     HostWindow *window)
+    : m_random(seed), m_open(std::move(open)), m_path(path), m_service(service), m_log(log), m_window(window) {
     m_model.m_fields = kFields;
     for (int row = 0; row < kRecords; ++row) {
         m_model.m_records.emplace_back();
@@ -16,15 +17,15 @@ EditorRun::EditorRun(unsigned seed, RunEditor *editor, RefusingSource *source, R
                                                    ? std::to_string(row + 1)
                                                    : std::to_string(field) + "." + std::to_string(row));
     }
-    for (int field = 0; field < kFields; ++field)
-        m_view.m_shown.push_back(field);
-    m_ownWidth = m_editor->GetSH_Width();
+    m_saved = m_model.m_records;
+    OpenAnew();
     for (const Event *event = kEvents; event->weight > 0; ++event)
         m_weights += event->weight;
-    m_editor->SetFocus();
     TestApp().m_whileUp = [this](const std::string &text) {
         const bool question = text.find('?') != std::string::npos;
-        TestApp().Answer({question ? m_answers[m_answered++] : IDOK});
+        const int answer = question ? m_answers[m_answered++ % std::size(m_answers)] : IDOK;
+        DisturbQuestion(); // which may bring further ones
+        TestApp().Answer({answer});
     };
 }
 
@@ -50,6 +51,8 @@ void EditorRun::Next() {
     while (ticket >= event->weight)
         ticket -= (event++)->weight;
     (this->*event->act)();
+    if (m_gone)
+        OpenAnew();
     if (m_random.OneIn(3))
         PumpAll();
     m_log->Take();

@@ -12,6 +12,7 @@ namespace {
 thread_local long g_untilFault = -1; // below 0 none is due
 thread_local bool g_failed = false;
 std::atomic<long> g_live{0};
+std::atomic<bool> g_spoils{false};
 
 void *FaultyMalloc(size_t bytes) {
     if (g_untilFault >= 0 && g_untilFault-- == 0) {
@@ -25,6 +26,8 @@ void *FaultyMalloc(size_t bytes) {
 
 void CountingFree(void *block) {
     g_live -= block != nullptr;
+    if (g_spoils && block != nullptr)
+        std::memset(block, 0xDD, ::_msize(block));
     std::free(block);
 }
 
@@ -67,12 +70,25 @@ bool Install() {
            ReplaceImport(runtime, "free", reinterpret_cast<void *>(&CountingFree));
 }
 
-} // namespace
-
-AllocationFault::AllocationFault(long nth) {
+void InstallOnce() {
     static const bool installed = Install();
     if (!installed)
         throw std::logic_error("the runtime does not import malloc");
+}
+
+} // namespace
+
+SpoiledMemory::SpoiledMemory() {
+    InstallOnce();
+    g_spoils = true;
+}
+
+SpoiledMemory::~SpoiledMemory() {
+    g_spoils = false;
+}
+
+AllocationFault::AllocationFault(long nth) {
+    InstallOnce();
     g_failed = false;
     g_untilFault = nth;
 }

@@ -16,3 +16,12 @@ public:
     // Allocations less frees of all threads since the first fault was made, in blocks.
     static long LiveBlocks();
 };
+
+// Memory that is given back is overwritten, so that whoever goes on using it falls.
+class SpoiledMemory {
+public:
+    SpoiledMemory();
+    ~SpoiledMemory();
+    SpoiledMemory(const SpoiledMemory &) = delete;
+    SpoiledMemory &operator=(const SpoiledMemory &) = delete;
+};

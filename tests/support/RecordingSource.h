@@ -27,7 +27,7 @@ public:
     int Close(bool force) override;
     int Save() override;
     int SaveAs(const char *name, const char *options) override;
-    long GetNumRows() override { return static_cast<long>(m_rows.size()); }
+    long GetNumRows() override { return m_answersRows ? static_cast<long>(m_rows.size()) : -1; }
     int GetNumCols() override { return static_cast<int>(m_fields.size()); }
     int GetColName(int col, CString *name) override;
     int GetColType(int col, int *type) override;
@@ -59,6 +59,7 @@ public:
     bool m_canUndo = false;
     bool m_canRedo = false;
     bool m_writable = true;
+    bool m_answersRows = true;          // how many there are
     bool m_answersWritable = true;        // whether option 7 is known at all
     std::map<std::string, int> m_results; // by operation's name: what it answers instead, having done nothing
     int m_openTransactions = 0;
@@ -67,6 +68,7 @@ public:
     std::vector<long> m_rowsRead;         // of those of cells, not of the side heading
     std::function<bool(long)> m_passes; // whether a record, 1-based, passes the filter; empty: it cannot be told
     std::function<int(int, long)> m_onSetCell; // what writing a column and row answers; empty: success
+    std::function<void(const std::string &)> m_onDone; // called within each noted operation, by its name
     std::vector<int> m_types;           // by column; 0 where there is none
     long m_growsBy = -1;                  // rows that RequestMoreRows reports; below 0 it is not supported
 

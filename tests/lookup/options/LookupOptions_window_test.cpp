@@ -362,6 +362,17 @@ TEST_F(LookupOptionsTest, TheFirstPasswordIsSetWithoutAnOldOne) {
     EXPECT_EQ(Scrambled("new"), StoredPassword());
 }
 
+TEST_F(LookupOptionsTest, APasswordWhoseFormAZeroByteCutsIsRefused) {
+    SetPassword("old");
+    CLookupRegKey().SetAdminLoggonState(true);
+    WithDialog act(
+        [](HWND dialog) { IsNewDialog(dialog) ? EnterNew(dialog, "\x80" "uro", "\x80" "uro") : Enter(dialog, "old"); }, true);
+    m_manager.OnSetAdminPassword();
+    EXPECT_EQ("This password cannot be used, since its stored form would fit others too.\nPlease choose another.|0",
+              TestApp().TakeBoxes());
+    EXPECT_EQ(Scrambled("old"), StoredPassword());
+}
+
 TEST_F(LookupOptionsTest, TheOldPasswordIsAskedForFirst) {
     SetPassword("old");
     CLookupRegKey().SetAdminLoggonState(true);
