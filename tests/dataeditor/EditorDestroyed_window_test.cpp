@@ -139,6 +139,17 @@ protected:
         m_boxes = TestApp().TakeBoxes();
         ::DestroyWindow(window);
         ::EndMenu(); // menus outlive the windows that they belong to
+        // So do dialogs that belong to another window, and somebody answers them.
+        ::EnumThreadWindows(::GetCurrentThreadId(), AnswerDialog, 0);
+    }
+    static BOOL CALLBACK AnswerDialog(HWND window, LPARAM) {
+        char className[16] = "";
+        ::GetClassNameA(window, className, sizeof className);
+        if (std::strcmp(className, "#32770") == 0 && ::IsWindowVisible(window)) {
+            for (const WPARAM answer : {WPARAM(CYesNoCancelAllDlg::kAll), WPARAM(IDOK), WPARAM(IDCANCEL)})
+                ::PostMessageA(window, WM_COMMAND, answer, 0);
+        }
+        return TRUE;
     }
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
         if (ms_test != nullptr)
