@@ -1,6 +1,8 @@
 // Reading and writing cells through their layers, and the default cells.
 #include "grid/UGCtrl.h"
 
+#include "grid/ValueScope.h"
+
 namespace {
 
 int CopyOut(CUGCell *destination, const CUGCell &source) {
@@ -70,9 +72,12 @@ int CUGCtrl::SetCell(int col, long row, CUGCell *cell) {
 }
 
 int CUGCtrl::QuickSetText(int col, long row, const char *text) {
-    GetCellRaw(col, row, &m_scratch);
-    m_scratch.SetText(text);
-    return SetCell(col, row, &m_scratch);
+    CUGCell another; // for a notification that sets a further cell
+    CUGCell &cell = m_scratchInUse ? another : m_scratch;
+    const CUGValueScope<bool> inUse(&m_scratchInUse, true);
+    GetCellRaw(col, row, &cell);
+    cell.SetText(text);
+    return SetCell(col, row, &cell);
 }
 
 int CUGCtrl::SetColDefault(int col, CUGCell *cell) {
