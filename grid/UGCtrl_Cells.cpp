@@ -60,10 +60,24 @@ int CUGCtrl::GetCellRaw(int col, long row, CUGCell *cell) {
 }
 
 int CUGCtrl::SetCell(int col, long row, CUGCell *cell) {
-    if (col >= m_GI.m_cols.m_count || row >= m_GI.m_rows.m_count)
+    const int allowed = AskToSetCell(col, row, cell);
+    return allowed == GRID_SUCCESS ? StoreCell(col, row, cell) : allowed;
+}
+
+// The notification may close the table or show another field in the column: the cell was meant for the one before.
+int CUGCtrl::AskToSetCell(int col, long row, CUGCell *cell) {
+    const auto exists = [=, this] { return col < m_GI.m_cols.m_count && row < m_GI.m_rows.m_count; };
+    if (!exists())
         return GRID_ERROR;
+    const CUGDataSource *source = m_GI.CurrentSource();
+    const int dataCol = TranslatedColumn(col);
     if (!OnSetCell(col, row, cell))
         return GRID_ERROR;
+    const bool same = exists() && (row < 0 || (m_GI.CurrentSource() == source && TranslatedColumn(col) == dataCol));
+    return same ? GRID_SUCCESS : GRID_ERROR;
+}
+
+int CUGCtrl::StoreCell(int col, long row, CUGCell *cell) {
     if (row < 0) {
         CUGCell &heading = col >= 0 ? *m_GI.m_colHeadings[col] : m_GI.m_cornerHeading;
         return heading.CopyFrom(cell);

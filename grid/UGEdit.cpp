@@ -58,14 +58,19 @@ bool CUGEdit::AskFinish(int col, long row) {
 }
 
 // What was typed, into the cell that the box stands over: a notification may have made another one current
-// meanwhile, as when a key appends a record, and the text must not end up there.
-void CUGEdit::Write(int col, long row) {
+// meanwhile, as when a key appends a record, and the text must not end up there. False where the notification ended the
+// edit: what the cell shows by then may be another field or record.
+bool CUGEdit::Write(int col, long row) {
+    const HWND box = m_hWnd;
     CString text;
     GetWindowText(text);
     CUGCell cell;
     m_ctrl->GetCellRaw(col, row, &cell);
     cell.SetText(text);
-    m_result = m_ctrl->SetCell(col, row, &cell);
+    const int allowed = m_ctrl->AskToSetCell(col, row, &cell);
+    if (m_hWnd != box)
+        return false;
+    m_result = allowed == GRID_SUCCESS ? m_ctrl->StoreCell(col, row, &cell) : allowed;
     m_ctrl->RedrawCell(col, row); // what the box does not cover, and where else a locked column shows
     m_written = true;
     if (m_listener != nullptr)
@@ -87,12 +92,14 @@ int CUGEdit::Finish() {
     const CUGValueScope<bool> finishing(&m_finishing, true);
     if (!AskFinish(col, row))
         return 0; // and the finish stays owed
-    Write(col, row);
+    if (!Write(col, row))
+        return 0;
     if (m_hWnd != nullptr && m_hWnd != box)
         return 0; // the write began another edit
     m_active = false; // a focus that came back owes nothing: the text stands
     return 1;
 }
+    return true;
 
 void CUGEdit::FinishAndContinue(int dx, int dy) {
     CUGCtrl *ctrl = m_ctrl;

@@ -49,7 +49,9 @@ private:
 
     int Finish();
     bool AskFinish(int col, long row);
-    void Write(int col, long row);
+    bool Write(int col, long row);
+    bool IsOvertaken(int col, long row);
+    void NoteTexts(int col, long row);
     void FinishAndContinue(int dx, int dy);
     bool PassMask(char character);
     void Reformat();
