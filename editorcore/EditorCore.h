@@ -115,8 +115,6 @@ public:
     bool IsFieldHidden(const char *name);
     bool CanHideCols();
     int GetColumnCellType(int gridCol);
-    // An edit in progress in the column is finished first.
-    int SetColTranslation(int gridCol, int field);
     // These four rebuild the grid's columns. An edit in progress is finished first, and the selection, which names grid
     // columns, goes. When memory runs out they say so and the view stays as it was.
     void DisplayCols(const CUIntArray &fields);
@@ -347,6 +345,7 @@ private:
     template <class Change> bool ChangeView(Change change);
     void ShowFields(const CUIntArray &fields);
     void ShowOrder(const CUIntArray &fields);
+    void EditLosesCell() override;
     void ShowWithout(const CUIntArray &gridCols);
     void ShowWith(const CUIntArray &gridCols, const CUIntArray &fields);
     bool SelectedBlock(int *left, long *top, int *right, long *bottom);

@@ -123,6 +123,11 @@ void CEditorCore::EditWritten() {
 }
 
 // Typing after an undo in the box takes the place of what was undone there.
+// Columns of the grid are about to show other fields.
+void CEditorCore::EditLosesCell() {
+    SettleEdit();
+}
+
 void CEditorCore::EditTextChanged() {
     m_bEditUndone = false;
 }

@@ -112,6 +112,8 @@ void CEditorCore::ReportOutOfMemory() {
 }
 
 CEditorCore::~CEditorCore() {
+    m_grid.m_edit.m_listener = nullptr;
+    CancelEdit();
     if (m_bLayoutValid && m_bAutoSaveLayout)
         Serialize(true);
     DeleteParts();

@@ -95,6 +95,11 @@ int CUGCtrl::QuickSetText(int col, long row, const char *text) {
 }
 
 int CUGCtrl::SetColDefault(int col, CUGCell *cell) {
+    if (!m_GI.m_cols.Contains(col))
+        return GRID_ERROR;
+    const CUGCell &before = *m_GI.m_colDefaults[col];
+    if (before.GetColTranslation() != cell->GetColTranslation() || before.GetDataSrcIndex() != cell->GetDataSrcIndex())
+        LeaveEditedCell(col);
     return m_GI.m_cols.Contains(col) ? m_GI.m_colDefaults[col]->CopyFrom(cell) : GRID_ERROR;
 }
 
@@ -126,6 +131,8 @@ int CUGCtrl::GetDataColNumber(int col) {
 }
 
 int CUGCtrl::SetColTranslation(int col, int dataCol) {
+    if (GetDataColNumber(col) != dataCol)
+        LeaveEditedCell(col);
     if (!m_GI.m_cols.Contains(col))
         return GRID_ERROR;
     return m_GI.m_colDefaults[col]->SetColTranslation(static_cast<short>(dataCol));

@@ -16,6 +16,7 @@ class CUGEditListener {
 public:
     virtual void EditTextChanged() = 0; // by whatever way
     virtual void EditWritten() = 0;     // the cell has been written, or has refused the text
+    virtual void EditLosesCell() = 0;   // the cell shows something else in a moment: it can be written now for the last time
 
 protected:
     ~CUGEditListener() = default;
