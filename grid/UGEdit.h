@@ -59,6 +59,7 @@ private:
 
     CUGCtrl *m_ctrl = nullptr; // borrowed, set by Open
     CUGEditMask m_mask;
+    CString m_textBefore, m_cellBefore; // of the box and its cell, when it was opened or written last
     bool m_maskBusy = false;   // the mask code itself is changing the text
     bool m_focusSeen = false;
     bool m_finishing = false;  // OnEditFinish is being asked: the box stays, whoever takes the focus
