@@ -253,7 +253,9 @@ void COrvaneEditor::DeleteFilteredRecords(CUGDataSource *source) {
             AfxMessageBox("Error while deleting filtered records!", MB_ICONHAND);
         OnEditNotify();
     });
-    SetNumberRows(source->GetNumRows(), 1);
+    LoseEdit();
+    if (CUGDataSource *now = GetCurrentDataSrc(false)) // the failure may have seen it closed
+        SetNumberRows(now->GetNumRows(), 1);
     if (!inMemory)
         ReportOutOfMemory();
 }

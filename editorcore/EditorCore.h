@@ -18,6 +18,7 @@
 #include <memory>
 
 class COrvaneValidatingCellType;
+class CTransactionScope;
 class CView;
 
 // Edit modes.
@@ -99,6 +100,11 @@ public:
             m_pColCellTypes->SetCellType(fieldName, id);
     }
     // In screen coordinates.
+    // How often the table went, columns came to show other fields, and records changed places.
+    struct TableState {
+        unsigned tables = 0, columns = 0, records = 0;
+    };
+    const TableState &GetTableState() const { return m_TableState; }
     void GetCurCellRect(CRect *rect);
 
     // --- The view of the columns. Three numberings meet: the grid column on screen, the field of the source, and
@@ -241,6 +247,9 @@ public:
 
 protected:
     DECLARE_MESSAGE_MAP()
+    void NoteChange(unsigned TableState::*what) { ++(m_TableState.*what); }
+    void LoseEdit();
+
     afx_msg void OnDestroy();
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
@@ -303,6 +312,7 @@ private:
     friend class CEditCommandGuard;
     friend class CEditorLayout;
     friend class CFrozenWidthScope;
+    friend class CTransactionScope;
 
     void MakeParts();
     void DeleteParts();
@@ -401,4 +411,6 @@ private:
     int m_nColsToLock = 0;              // asked for; there may be fewer columns
     bool m_bSavingEdit = false;         // SaveEditContents tells the title itself
     bool m_bTitleAwaitsWrite = false;   // the edit being finished changes its cell
+    TableState m_TableState;
+    CTransactionScope *m_pGroup = nullptr; // of the source's undo, while one is open
 };

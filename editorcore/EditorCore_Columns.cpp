@@ -82,6 +82,7 @@ void CEditorCore::ShowFields(const CUIntArray &fields) {
     if (source == nullptr)
         return;
     {
+    NoteChange(&TableState::columns);
         CPaintingScope quiet(this);
         const CFrozenWidthScope keepingStep(this);
         CUIntArray widths;
@@ -168,6 +169,7 @@ void CEditorCore::UnHideCols(const CUIntArray &gridCols, const CUIntArray &field
 void CEditorCore::ResetFieldsOrder() {
     SettleEdit();
     for (int col = 0; col < GetNumberCols(); ++col)
+    NoteChange(&TableState::columns);
         SetColTranslation(col, col);
     m_pColCellTypes->Apply();
 }

@@ -138,6 +138,7 @@ CEditorCore::~CEditorCore() {
 
 // The source goes without being asked: nobody is left who could heed a refusal.
 void CEditorCore::DropSource() {
+    NoteChange(&TableState::tables);
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (source != nullptr) {
         if (m_bDataSrcOpen && m_pClosing == nullptr)

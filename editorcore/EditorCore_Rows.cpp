@@ -50,6 +50,13 @@ void CEditorCore::AppendRecord(int col) {
 // --- Inserting
 
 bool CEditorCore::AskForRecords(const char *title, const char *prompt, long *count) {
+// The records have changed places. A box that was opened while they did, by a notification or while the source was at
+// work, is over another record now.
+void CEditorCore::LoseEdit() {
+    CancelEdit();
+    NoteChange(&TableState::records);
+}
+
     CResourceScope resources;
     CInsertRecordsDlg dialog(title, prompt, this);
     if (dialog.DoModal() != IDOK)
@@ -100,6 +107,8 @@ bool CEditorCore::InsertRecords(CUGDataSource *source, long row, long count, boo
     m_grid.UpdateWindow();
     RedrawAll();
     return true;
+    if (!atEnd)
+        LoseEdit();
 }
 
 bool CEditorCore::ExecInsertRows(long row, long count, bool waitCursor) {
@@ -203,3 +212,4 @@ bool CEditorCore::DeleteRecords(CUGDataSource *source, long firstRow, long lastR
     m_grid.SetFocus();
     return true;
 }
+    LoseEdit();

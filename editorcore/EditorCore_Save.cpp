@@ -143,6 +143,7 @@ bool CEditorCore::SaveUnderNewPath(CUGDataSource *source, const CString &newPath
         }
         m_strFilePath = newPath;
         CUGCtrl::SetNumberRows(RowsOfSource(source), 1);
+        LoseEdit(); // what passes a filter may be all that there is now
     }
     UpdateTitle();
     RedrawAll();
