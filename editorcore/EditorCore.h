@@ -99,12 +99,12 @@ public:
         if (m_pColCellTypes != nullptr)
             m_pColCellTypes->SetCellType(fieldName, id);
     }
-    // In screen coordinates.
     // How often the table went, columns came to show other fields, and records changed places.
     struct TableState {
         unsigned tables = 0, columns = 0, records = 0;
     };
     const TableState &GetTableState() const { return m_TableState; }
+    // In screen coordinates.
     void GetCurCellRect(CRect *rect);
 
     // --- The view of the columns. Three numberings meet: the grid column on screen, the field of the source, and
@@ -246,10 +246,10 @@ public:
     void OnCB_LClicked(int updn) override;
 
 protected:
-    DECLARE_MESSAGE_MAP()
     void NoteChange(unsigned TableState::*what) { ++(m_TableState.*what); }
     void LoseEdit();
 
+    DECLARE_MESSAGE_MAP()
     afx_msg void OnDestroy();
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
@@ -345,7 +345,9 @@ private:
     void ForgetHeadingSelection();
     void EditTextChanged() override;
     void EditWritten() override;
+    void EditLosesCell() override;
     bool IsEditTyped();
+    void SaveAsOwnStep();
     int FrozenSpan();
     void FitSideHeading(int ownWidth);
     long RowsOfSource(CUGDataSource *source) const;
@@ -355,7 +357,6 @@ private:
     template <class Change> bool ChangeView(Change change);
     void ShowFields(const CUIntArray &fields);
     void ShowOrder(const CUIntArray &fields);
-    void EditLosesCell() override;
     void ShowWithout(const CUIntArray &gridCols);
     void ShowWith(const CUIntArray &gridCols, const CUIntArray &fields);
     bool SelectedBlock(int *left, long *top, int *right, long *bottom);
@@ -408,9 +409,9 @@ private:
 
     CUGDataSource *m_pSource = nullptr; // owned while it is in the slot m_nDataSrcIndex of the grid's table
     Closing *m_pClosing = nullptr;      // while the table is being closed
+    TableState m_TableState;
+    CTransactionScope *m_pGroup = nullptr; // of the source's undo, while one is open
     int m_nColsToLock = 0;              // asked for; there may be fewer columns
     bool m_bSavingEdit = false;         // SaveEditContents tells the title itself
     bool m_bTitleAwaitsWrite = false;   // the edit being finished changes its cell
-    TableState m_TableState;
-    CTransactionScope *m_pGroup = nullptr; // of the source's undo, while one is open
 };
