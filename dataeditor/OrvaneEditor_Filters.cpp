@@ -3,6 +3,7 @@
 
 #include "grid/PaintingScope.h"
 #include "editorcore/RecordsDlg.h"
+#include "editorcore/TableWatch.h"
 
 namespace {
 
@@ -65,9 +66,10 @@ void COrvaneEditor::OnSelectAttachFilter() {
     RunCommand([&] {
         int number = kNoFilter;
         if (GetCurrentDataSrc(false) == nullptr || !ms_pAppInterface->SelectFilter(&number))
+        const CTableWatch watch(this);
             return;
         CUGDataSource *source = GetCurrentDataSrc(false); // the host may have closed it while it asked
-        if (source == nullptr || source->SetOption(kAttachFilter, number, 0) != GRID_SUCCESS)
+        if (source == nullptr || !watch.SameTable() || source->SetOption(kAttachFilter, number, 0) != GRID_SUCCESS)
             return;
         m_nFilter = number;
         RedrawAll();
@@ -78,8 +80,9 @@ void COrvaneEditor::OnSelectAttachFilter() {
 void COrvaneEditor::OnEditFilter() {
     RunCommand([&] {
         const int number = m_nFilter < kDefaultFilter ? kDefaultFilter : m_nFilter;
-        const bool edited =
-            GetCurrentDataSrc(false) != nullptr && ms_pAppInterface->EditFilter(number, m_strFilePath);
+        const CTableWatch watch(this);
+        const bool edited = GetCurrentDataSrc(false) != nullptr &&
+                            ms_pAppInterface->EditFilter(number, m_strFilePath) && watch.SameTable();
         CUGDataSource *source = GetCurrentDataSrc(false);
         if (edited && source != nullptr && source->SetOption(kAttachFilter, kDefaultFilter, 0) == GRID_SUCCESS)
             m_nFilter = kDefaultFilter;
@@ -237,11 +240,15 @@ void COrvaneEditor::OnDeleteRows() {
         SettleEdit(); // the record under the box may be among them
         if (GetCurrentDataSrc(true) == nullptr ||
             AfxMessageBox("Delete filtered records?\n\n"
+        const CTableWatch watch(this);
+        const int filter = m_nFilter;
                           "(You will not be able to undo this operation)",
                           MB_YESNO | MB_ICONQUESTION) != IDYES)
             return;
         SettleEdit(); // one begun while it was asked
-        if (CUGDataSource *source = GetCurrentDataSrc(false)) // the host may have closed it while it was asked
+        CUGDataSource *source = GetCurrentDataSrc(false);
+        // The answer was for this table and this filter.
+        if (source != nullptr && watch.SameTable() && m_nFilter == filter && IsUsingFilteredRecords())
             DeleteFilteredRecords(source);
     });
 }
