@@ -64,9 +64,10 @@ void COrvaneEditor::OnAttachFilter(int number) {
 
 void COrvaneEditor::OnSelectAttachFilter() {
     RunCommand([&] {
+        SettleEdit(); // before the prompt takes the focus
         int number = kNoFilter;
-        if (GetCurrentDataSrc(false) == nullptr || !ms_pAppInterface->SelectFilter(&number))
         const CTableWatch watch(this);
+        if (GetCurrentDataSrc(false) == nullptr || !ms_pAppInterface->SelectFilter(&number))
             return;
         CUGDataSource *source = GetCurrentDataSrc(false); // the host may have closed it while it asked
         if (source == nullptr || !watch.SameTable() || source->SetOption(kAttachFilter, number, 0) != GRID_SUCCESS)
@@ -79,6 +80,7 @@ void COrvaneEditor::OnSelectAttachFilter() {
 // Editing hands its result over as the default filter, whichever was edited.
 void COrvaneEditor::OnEditFilter() {
     RunCommand([&] {
+        SettleEdit(); // before the prompt takes the focus
         const int number = m_nFilter < kDefaultFilter ? kDefaultFilter : m_nFilter;
         const CTableWatch watch(this);
         const bool edited = GetCurrentDataSrc(false) != nullptr &&
@@ -238,10 +240,10 @@ void COrvaneEditor::OnDeleteRows() {
     }
     RunCommand([&] {
         SettleEdit(); // the record under the box may be among them
-        if (GetCurrentDataSrc(true) == nullptr ||
-            AfxMessageBox("Delete filtered records?\n\n"
         const CTableWatch watch(this);
         const int filter = m_nFilter;
+        if (GetCurrentDataSrc(true) == nullptr ||
+            AfxMessageBox("Delete filtered records?\n\n"
                           "(You will not be able to undo this operation)",
                           MB_YESNO | MB_ICONQUESTION) != IDYES)
             return;

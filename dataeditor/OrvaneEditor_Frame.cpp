@@ -80,6 +80,7 @@ void COrvaneEditor::CheckLookupFiles() {}
 // --- Saving
 
 void COrvaneEditor::OnSaveAs() {
+    RunCommand([this] { SettleEdit(); }); // before the prompt takes the focus: verifying has a question of its own
     CString name(m_strFilePath);
     const bool attached = IsFilterAttached();
     bool useFiltered = IsUsingFilteredRecords();
