@@ -99,11 +99,6 @@ public:
         if (m_pColCellTypes != nullptr)
             m_pColCellTypes->SetCellType(fieldName, id);
     }
-    // How often the table went, columns came to show other fields, and records changed places.
-    struct TableState {
-        unsigned tables = 0, columns = 0, records = 0;
-    };
-    const TableState &GetTableState() const { return m_TableState; }
     // In screen coordinates.
     void GetCurCellRect(CRect *rect);
 
@@ -246,7 +241,12 @@ public:
     void OnCB_LClicked(int updn) override;
 
 protected:
+    // How often the table went, columns came to show other fields, and records changed places. For CTableWatch.
+    struct TableState {
+        unsigned tables = 0, columns = 0, records = 0;
+    };
     void NoteChange(unsigned TableState::*what) { ++(m_TableState.*what); }
+    // The records have changed places: a box that is open is over another one.
     void LoseEdit();
 
     DECLARE_MESSAGE_MAP()
@@ -312,6 +312,7 @@ private:
     friend class CEditCommandGuard;
     friend class CEditorLayout;
     friend class CFrozenWidthScope;
+    friend class CTableWatch;
     friend class CTransactionScope;
 
     void MakeParts();

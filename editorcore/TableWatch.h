@@ -6,14 +6,14 @@
 
 class CTableWatch {
 public:
-    explicit CTableWatch(const CEditorCore *editor) : m_editor(editor), m_begun(editor->GetTableState()) {}
+    explicit CTableWatch(const CEditorCore *editor) : m_editor(editor), m_begun(editor->m_TableState) {}
     bool SameTable() const { return Now().tables == m_begun.tables; }
     bool SameColumns() const { return SameTable() && Now().columns == m_begun.columns; }
     // Table, columns and records. Records that were appended leave the others where they are.
     bool Holds() const { return SameColumns() && Now().records == m_begun.records; }
 
 private:
-    CEditorCore::TableState Now() const { return m_editor->GetTableState(); }
+    const CEditorCore::TableState &Now() const { return m_editor->m_TableState; }
 
     const CEditorCore *m_editor; // borrowed
     CEditorCore::TableState m_begun;

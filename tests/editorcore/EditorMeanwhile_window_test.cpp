@@ -130,6 +130,17 @@ TEST_F(EditorMeanwhileTest, ADeletionIsNotDoneWhereTheRecordsHaveMovedMeanwhile)
     EXPECT_EQ(3u, m_source->m_rows.size());
 }
 
+TEST_F(EditorMeanwhileTest, ADeletionIsDoneWhereRecordsWereAppendedMeanwhile) {
+    TestEditor &editor = OpenFile("t.dat");
+    WithDialog act([&](HWND dialog) {
+        EXPECT_TRUE(editor.ExecInsertRows(2, 1, false));
+        ::SendMessageA(dialog, WM_COMMAND, IDOK, 0);
+    });
+    editor.OnDeleteRows(false);
+    ASSERT_EQ(2u, m_source->m_rows.size());
+    EXPECT_EQ("0.1", m_source->Text(0, 0));
+}
+
 TEST_F(EditorMeanwhileTest, ATableThatWasLoadedWhileAnotherOnesOverwritingIsAskedForIsNotSavedThere) {
     TestEditor &editor = OpenFile("t.dat");
     Source(2, 3, "other");
