@@ -323,7 +323,7 @@ private:
     int StepTo(int col, long row);
     UGJoin JoinAt(const CUGCell &cell, int col, long row);
     RECT JoinRect(const UGJoin &join) const;
-    void UpdateSelection();
+    void UpdateSelection(int lastCol, long lastRow);
     void UpdateFocusedType(int lastCol, long lastRow);
     CUGCellType *FocusedType();
     void LeaveLostCells();

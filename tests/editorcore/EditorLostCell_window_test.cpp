@@ -112,6 +112,25 @@ TEST_F(EditorLostCellTest, AnEditBegunAsADeletionMovesTheCurrentCellIsNotWritten
     EXPECT_EQ("0.0,1.0/0.1,1.1/0.3,1.3/", Records());
 }
 
+TEST_F(EditorLostCellTest, AHostMayBeginAnEditWheneverTheCurrentCellChanges) {
+    TestEditor &editor = Open(2, 3);
+    int changes = 0;
+    std::function<void()> begin = [&] {
+        if (++changes < 10)
+            editor.m_onCellChange = begin;
+        editor.StartEdit();
+    };
+    editor.m_onCellChange = begin;
+    editor.GotoCell(1, 2);
+    EXPECT_EQ("1.2", Box(editor));
+    TypeText(editor.Edit(), "typed");
+    ::SendMessageA(editor.Edit(), WM_KEYDOWN, VK_UP, 1);
+    EXPECT_EQ("1.1", Box(editor));
+    EXPECT_EQ(2, changes);
+    EXPECT_EQ("0.0,1.0/0.1,1.1/0.2,typed/", Records());
+    editor.m_onCellChange = nullptr;
+}
+
 TEST_F(EditorLostCellTest, ColumnsThatAreReorderedAsTheCellIsWrittenTakeTheTextNowhereElse) {
     TestEditor &editor = Open(2, 2);
     Type(editor, "typed");
