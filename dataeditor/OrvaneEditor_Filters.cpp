@@ -3,6 +3,7 @@
 
 #include "grid/PaintingScope.h"
 #include "editorcore/RecordsDlg.h"
+#include "editorcore/TableWatch.h"
 
 namespace {
 
@@ -70,10 +71,12 @@ void COrvaneEditor::OnAttachFilter(int number) {
 
 void COrvaneEditor::OnSelectAttachFilter() {
     RunCommand([&] {
+        SettleEdit(); // before the prompt takes the focus
         int number = kNoFilter;
+        const CTableWatch watch(this);
         if (GetCurrentDataSrc(false) == nullptr || !ms_pAppInterface->SelectFilter(&number))
             return;
-        if (!SetSourceOption(kAttachFilter, number))
+        if (!watch.SameTable() || !SetSourceOption(kAttachFilter, number))
             return;
         m_nFilter = number;
         RedrawAll();
@@ -83,9 +86,11 @@ void COrvaneEditor::OnSelectAttachFilter() {
 // Editing hands its result over as the default filter, whichever was edited.
 void COrvaneEditor::OnEditFilter() {
     RunCommand([&] {
+        SettleEdit(); // before the prompt takes the focus
         const int number = m_nFilter < kDefaultFilter ? kDefaultFilter : m_nFilter;
-        const bool edited =
-            GetCurrentDataSrc(false) != nullptr && ms_pAppInterface->EditFilter(number, m_strFilePath);
+        const CTableWatch watch(this);
+        const bool edited = GetCurrentDataSrc(false) != nullptr &&
+                            ms_pAppInterface->EditFilter(number, m_strFilePath) && watch.SameTable();
         if (edited && SetSourceOption(kAttachFilter, kDefaultFilter))
             m_nFilter = kDefaultFilter;
         RedrawAll();
@@ -239,13 +244,17 @@ void COrvaneEditor::OnDeleteRows() {
     }
     RunCommand([&] {
         SettleEdit(); // the record under the box may be among them
+        const CTableWatch watch(this);
+        const int filter = m_nFilter;
         if (GetCurrentDataSrc(true) == nullptr ||
             AfxMessageBox("Delete filtered records?\n\n"
                           "(You will not be able to undo this operation)",
                           MB_YESNO | MB_ICONQUESTION) != IDYES)
             return;
         SettleEdit(); // one begun while it was asked
-        if (CUGDataSource *source = GetCurrentDataSrc(false)) // the host may have closed it while it was asked
+        CUGDataSource *source = GetCurrentDataSrc(false);
+        // The answer was for this table and this filter.
+        if (source != nullptr && watch.SameTable() && m_nFilter == filter && IsUsingFilteredRecords())
             DeleteFilteredRecords(source);
     });
 }
@@ -262,8 +271,9 @@ void COrvaneEditor::DeleteFilteredRecords(CUGDataSource *source) {
             AfxMessageBox("Error while deleting filtered records!", MB_ICONHAND);
         OnEditNotify();
     });
-    if (GetCurrentDataSrc(false) == source)
-        SetNumberRows(source->GetNumRows(), 1);
+    LoseEdit();
+    if (CUGDataSource *now = GetCurrentDataSrc(false)) // the failure may have seen it closed
+        SetNumberRows(now->GetNumRows(), 1);
     if (!inMemory)
         ReportOutOfMemory();
 }

@@ -1,6 +1,7 @@
 // Finding: the order of the search, and the test of one cell.
 #include "dataeditor/OrvaneEditor.h"
 
+#include "editorcore/TableWatch.h"
 #include "editorcore/WaitCursorScope.h"
 
 #include <cstring>
@@ -37,21 +38,22 @@ LRESULT COrvaneEditor::OnFindNext(WPARAM wParam, LPARAM) {
 
 void COrvaneEditor::FindNext(const CFindReplaceData &data) {
     const CWaitCursorScope wait(ms_pAppInterface);
-    const bool open = GetCurrentDataSrc(false) != nullptr;
-    SaveEditContents();
-    if (open && GetCurrentDataSrc(false) == nullptr)
-        return; // closed while the edit's own question was up
-    const int current = GetCurrentCol();
-    m_FindData = data;
+    m_FindData = data; // the host's may go with its dialog while an edit's own question is up
     m_bCanFindAgain = true;
+    const CTableWatch watch(this);
+    SaveEditContents();
+    if (!watch.SameTable())
+        return;
+    const int current = GetCurrentCol();
     CString find, typed;
-    data.GetFindString(find);
-    data.GetOriginalFindString(typed);
-    const int direction = data.GetDirection();
+    m_FindData.GetFindString(find);
+    m_FindData.GetOriginalFindString(typed);
+    const int direction = m_FindData.GetDirection();
+    const bool matchCase = m_FindData.IsMatchingCase();
     if (direction == kSearchSelection)
-        DoSelectedCellsSearch(find, typed, data.IsMatchingCase());
+        DoSelectedCellsSearch(find, typed, matchCase);
     else
-        DoColumnSearch(data.IsSearchingAllFields() ? -1 : current, find, typed, direction, data.IsMatchingCase());
+        DoColumnSearch(m_FindData.IsSearchingAllFields() ? -1 : current, find, typed, direction, matchCase);
 }
 
 // Null after an error that was told. The text lives until the next call.

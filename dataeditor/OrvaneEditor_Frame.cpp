@@ -2,6 +2,7 @@
 #include "dataeditor/OrvaneEditor.h"
 
 #include "editorcore/MemoryGuard.h"
+#include "editorcore/TableWatch.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -79,6 +80,7 @@ void COrvaneEditor::CheckLookupFiles() {}
 // --- Saving
 
 void COrvaneEditor::OnSaveAs() {
+    RunCommand([this] { SettleEdit(); }); // before the prompt takes the focus: verifying has a question of its own
     CString name(m_strFilePath);
     const bool attached = IsFilterAttached();
     bool useFiltered = IsUsingFilteredRecords();
@@ -237,7 +239,10 @@ void COrvaneEditor::SettleEditOver(int col, long row) {
 
 void COrvaneEditor::EnterEditText(const char *text, int col, long row, bool quick) {
     RunCommand([&] {
-        SettleEditOver(col, row);
+        const CTableWatch watch(this);
+        SettleEditOver(col, row); // it may ask
+        if (!watch.Holds())
+            return; // the cell that the text was for may be another one now
         if (quick) {
             ReadCellText(col, row);
             QuickSetText(col, row, text);
@@ -266,10 +271,15 @@ void COrvaneEditor::WriteCellText(int col, long row, const char *text) {
 void COrvaneEditor::EnterPickListText(const char *text) {
     if (IsGridReadOnly())
         return;
-    const bool settled = RunInMemory([&] { SettleEditOver(GetCurrentCol(), GetCurrentRow()); }); // it may ask
+    const int col = GetCurrentCol();
+    const long row = GetCurrentRow();
+    const CTableWatch watch(this);
+    const bool settled = RunInMemory([&] { SettleEditOver(col, row); }); // it may ask
+    if (!watch.Holds())
+        return; // the cell that it was chosen for may be another one now
     EnablePainting(0);
-    m_nPickListCol = GetCurrentCol();
-    m_nPickListRow = GetCurrentRow();
+    m_nPickListCol = col;
+    m_nPickListRow = row;
     const bool inMemory = settled && RunInMemory([&] { WriteCellText(m_nPickListCol, m_nPickListRow, text); });
     PumpDroppingClicks();
     // It lets the grid paint again. Settling may have asked, and the window be gone.

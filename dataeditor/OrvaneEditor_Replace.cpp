@@ -2,6 +2,7 @@
 #include "dataeditor/DataEditorDlgs.h"
 #include "dataeditor/OrvaneEditor.h"
 
+#include "editorcore/TableWatch.h"
 #include "editorcore/TransactionScope.h"
 #include "editorcore/WaitCursorScope.h"
 
@@ -32,6 +33,7 @@ struct COrvaneEditor::ReplaceRun {
     long total = 0;
     bool anyMatch = false;
     std::optional<CTransactionScope> transaction = std::nullopt;
+    CTableWatch watch;
     bool startTransaction = true;
     int answer = kYes;
     int stoppedCol = -1; // of the cell at which an error ended the run
@@ -74,6 +76,7 @@ bool COrvaneEditor::AskToReplace(int col, long row, const std::string &text, con
     }
     message.Format("Replace '%s' with '%s'?", text.c_str(), newText.c_str());
     CResourceScope resources;
+    const CTableWatch watch(this);
     switch (CYesNoCancelAllDlg(message, nullptr).DoModal()) {
     case CYesNoCancelAllDlg::kYes: *answer = kYes; break;
     case CYesNoCancelAllDlg::kNo: *answer = kNo; break;
@@ -83,13 +86,19 @@ bool COrvaneEditor::AskToReplace(int col, long row, const std::string &text, con
     }
     *replaced = *answer == kYes || *answer == kAll;
     *all = *all || *answer == kAll;
-    return !*replaced || StillHolds(col, row, text, replaced);
+    if (!*replaced)
+        return true;
+    SettleEdit();
+    if (!watch.SameColumns()) {
+        *replaced = false;
+        return true;
+    }
+    return StillHolds(col, row, text, replaced);
 }
 
 // The answer was for this text: another record may be here since, or the cell hold something else. False after an error
 // that was told.
 bool COrvaneEditor::StillHolds(int col, long row, const std::string &text, bool *holds) {
-    SettleEdit();
     const char *now = CellText(col, row);
     *holds = now != nullptr && text == now;
     return now != nullptr;
@@ -177,7 +186,7 @@ bool COrvaneEditor::PrepareReplace(ReplaceRun *run, int col, int direction) {
 
 // True to go on. Each confirmed replacement is an undo step of its own; after "all" the rest of the run is one.
 bool COrvaneEditor::ReplaceInCell(ReplaceRun *run, int col, long row) {
-    if (AbortOperation()) {
+    if (AbortOperation() || !run->watch.SameColumns()) { // a user's stop, or fields that were not asked for
         run->transaction.reset();
         RedrawAll();
         return false;
@@ -260,12 +269,13 @@ void COrvaneEditor::DoReplace(int col, const char *find, const char *replace, co
                               bool matchCase) {
     CEditCommandGuard guard(this);
     RunCommand([&] {
-        const bool open = GetCurrentDataSrc(false) != nullptr;
+        const CTableWatch asking(this);
         SettleEdit(); // a box would write over what is replaced in its cell
-        if (open && GetCurrentDataSrc(false) == nullptr)
-            return; // closed while the edit's own question was up
+        if (!asking.SameTable())
+            return;
         std::optional<CWaitCursorScope> wait; // ends after the group of the source's undo
-        ReplaceRun run{find, replace, direction, matchCase};
+        ReplaceRun run{.find = find, .replace = replace, .direction = direction, .matchCase = matchCase,
+                       .watch = CTableWatch(this)};
         if (!PrepareReplace(&run, col, direction))
             return;
         wait.emplace(ms_pAppInterface);

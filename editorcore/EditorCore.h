@@ -18,6 +18,7 @@
 #include <memory>
 
 class COrvaneValidatingCellType;
+class CTransactionScope;
 class CView;
 
 // Edit modes.
@@ -115,8 +116,6 @@ public:
     bool IsFieldHidden(const char *name);
     bool CanHideCols();
     int GetColumnCellType(int gridCol);
-    // An edit in progress in the column is finished first.
-    int SetColTranslation(int gridCol, int field);
     // These four rebuild the grid's columns. An edit in progress is finished first, and the selection, which names grid
     // columns, goes. When memory runs out they say so and the view stays as it was.
     void DisplayCols(const CUIntArray &fields);
@@ -242,6 +241,14 @@ public:
     void OnCB_LClicked(int updn) override;
 
 protected:
+    // How often the table went, columns came to show other fields, and records changed places. For CTableWatch.
+    struct TableState {
+        unsigned tables = 0, columns = 0, records = 0;
+    };
+    void NoteChange(unsigned TableState::*what) { ++(m_TableState.*what); }
+    // The records have changed places: a box that is open is over another one.
+    void LoseEdit();
+
     DECLARE_MESSAGE_MAP()
     afx_msg void OnDestroy();
     afx_msg void OnMouseMove(UINT flags, CPoint point);
@@ -319,6 +326,8 @@ private:
     friend class CEditCommandGuard;
     friend class CEditorLayout;
     friend class CFrozenWidthScope;
+    friend class CTableWatch;
+    friend class CTransactionScope;
 
     void MakeParts();
     void DeleteParts();
@@ -335,7 +344,9 @@ private:
     void ForgetHeadingSelection();
     void EditTextChanged() override;
     void EditWritten() override;
+    void EditLosesCell() override;
     bool IsEditTyped();
+    void SaveAsOwnStep();
     int FrozenSpan();
     void FitSideHeading(int ownWidth);
     long RowsOfSource(CUGDataSource *source) const;
@@ -399,6 +410,8 @@ private:
 
     CUGDataSource *m_pSource = nullptr; // owned while it is in the slot m_nDataSrcIndex of the grid's table
     SourceWork *m_pSourceWork = nullptr; // the outermost
+    TableState m_TableState;
+    CTransactionScope *m_pGroup = nullptr; // of the source's undo, while one is open
     int m_nColsToLock = 0;              // asked for; there may be fewer columns
     bool m_bSavingEdit = false;         // SaveEditContents tells the title itself
     bool m_bTitleAwaitsWrite = false;   // the edit being finished changes its cell

@@ -46,13 +46,6 @@ int CEditorCore::SetDataSrcCell(CUGDataSource *source, CUGCell *cell, int field,
     return result;
 }
 
-// What is typed in the column belongs to the field that it showed.
-int CEditorCore::SetColTranslation(int gridCol, int field) {
-    if (GetEditControl() != nullptr && m_GI.m_editCol == gridCol && GetDataColNumber(gridCol) != field)
-        SettleEdit();
-    return CUGOrvaneCtrlInterfaceLayer::SetColTranslation(gridCol, field);
-}
-
 void CEditorCore::GetColName(int gridCol, CString &name) {
     CUGCell cell;
     if (GetCell(gridCol, -1, &cell) == GRID_SUCCESS)

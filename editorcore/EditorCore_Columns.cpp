@@ -3,6 +3,7 @@
 #include "editorcore/EditorCore.h"
 #include "editorcore/FrozenWidthScope.h"
 #include "editorcore/MemoryGuard.h"
+#include "editorcore/TableWatch.h"
 #include "grid/PaintingScope.h"
 
 #include <algorithm>
@@ -81,6 +82,7 @@ void CEditorCore::ShowFields(const CUIntArray &fields) {
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (source == nullptr)
         return;
+    NoteChange(&TableState::columns);
     {
         CPaintingScope quiet(this);
         const CFrozenWidthScope keepingStep(this);
@@ -167,6 +169,7 @@ void CEditorCore::UnHideCols(const CUIntArray &gridCols, const CUIntArray &field
 
 void CEditorCore::ResetFieldsOrder() {
     SettleEdit();
+    NoteChange(&TableState::columns);
     for (int col = 0; col < GetNumberCols(); ++col)
         SetColTranslation(col, col);
     m_pColCellTypes->Apply();
@@ -228,6 +231,7 @@ void CEditorCore::OnUnHideCols() {
     std::unique_ptr<ReorderCommand> command;
     CStringArray names;
     CArray<bool, bool> shown;
+    const CTableWatch watch(this);
     const bool asked = RunInMemory([&] {
         command = std::make_unique<ReorderCommand>(this, &CEditorCore::ExecOrderCols, &CEditorCore::UnExecOrderCols);
         SettleEdit();
@@ -239,6 +243,8 @@ void CEditorCore::OnUnHideCols() {
         ReportOutOfMemory();
         return;
     }
+    if (!watch.SameTable())
+        return;
     const bool kept = RunInMemory([&] {
         GetDisplayCols(command->m_After);
         if (!SameOrder(command->m_Before, command->m_After))
@@ -269,6 +275,7 @@ void CEditorCore::OnOrderCols(CStringArray *order) {
     CEditCommandGuard guard(this);
     std::unique_ptr<ReorderCommand> command;
     CStringArray names;
+    const CTableWatch watch(this);
     const bool ready = RunInMemory([&] {
         command = std::make_unique<ReorderCommand>(this, &CEditorCore::ExecOrderCols, &CEditorCore::UnExecOrderCols);
         SettleEdit(); // before the host's dialog takes the focus
@@ -280,7 +287,7 @@ void CEditorCore::OnOrderCols(CStringArray *order) {
         if (order == nullptr && !ms_pAppInterface->PromptFieldOrder(&names))
             command.reset();
     });
-    if (!ready || command == nullptr)
+    if (!ready || command == nullptr || !watch.SameTable())
         return;
     const bool changed = ChangeView([&] {
         FieldsOfNames(names, command->m_After);

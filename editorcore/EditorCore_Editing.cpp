@@ -1,5 +1,6 @@
 // One edit, from the opening of the box to the boundary in the source's undo.
 #include "editorcore/EditorCore.h"
+#include "editorcore/TransactionScope.h"
 #include "grid/ValueScope.h"
 
 #include <utility>
@@ -122,6 +123,11 @@ void CEditorCore::EditWritten() {
         UpdateTitle();
 }
 
+// Columns of the grid are about to show other fields.
+void CEditorCore::EditLosesCell() {
+    SettleEdit();
+}
+
 // Typing after an undo in the box takes the place of what was undone there.
 void CEditorCore::EditTextChanged() {
     m_bEditUndone = false;
@@ -146,8 +152,20 @@ bool CEditorCore::IsEditTyped() {
 
 void CEditorCore::SettleEdit() {
     if (IsEditTyped())
-        SaveEditContents();
+        SaveAsOwnStep();
     CancelEdit(); // untouched, or a question keeps the box open
+}
+
+// An open group of the source's undo is interrupted for the edit.
+void CEditorCore::SaveAsOwnStep() {
+    CTransactionScope *group = m_pGroup;
+    if (group == nullptr || !group->IsOpen()) {
+        SaveEditContents();
+        return;
+    }
+    group->End();
+    SaveEditContents();
+    group->Begin();
 }
 
 void CEditorCore::SaveEditContents() {

@@ -112,6 +112,8 @@ void CEditorCore::ReportOutOfMemory() {
 }
 
 CEditorCore::~CEditorCore() {
+    m_grid.m_edit.m_listener = nullptr;
+    CancelEdit();
     if (m_bLayoutValid && m_bAutoSaveLayout)
         Serialize(true);
     DeleteParts();
@@ -136,6 +138,7 @@ CEditorCore::~CEditorCore() {
 
 // The source goes without being asked: nobody is left who could heed a refusal.
 void CEditorCore::DropSource() {
+    NoteChange(&TableState::tables);
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (source != nullptr) {
         if (m_bDataSrcOpen && m_pSourceWork == nullptr)

@@ -67,6 +67,7 @@ void CEditorCore::SetGridLayout() {
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (source == nullptr)
         return;
+    NoteChange(&TableState::columns);
     CPaintingScope quiet(this);
     if (!Serialize(false)) {
         BuildDefaultLayout(true);

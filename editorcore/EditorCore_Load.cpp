@@ -170,6 +170,7 @@ bool CEditorCore::CloseSource(bool argument, SourceWork *closing) {
 
 // The source has been closed, or a host has taken it.
 void CEditorCore::LeaveTable() {
+    NoteChange(&TableState::tables);
     CUGDataSource *source = GetCurrentDataSrc(false);
     m_bDataSrcOpen = false;
     Serialize(true);
@@ -242,7 +243,7 @@ void CEditorCore::OnDataSourceNotify(int, long what, long) {
     CUGDataSource *source = GetCurrentDataSrc(false);
     if (what != 1 || source == nullptr)
         return;
-    CancelEdit(); // another record may be where it was begun
+    LoseEdit(); // another record may be where it was begun
     CPaintingScope quiet(this);
     CUGCtrl::SetNumberRows(RowsOfSource(source), 0);
     EmptyUndoList();

@@ -3,6 +3,7 @@
 #include "editorcore/EditorCore.h"
 #include "editorcore/MemoryGuard.h"
 #include "editorcore/RecordsDlg.h"
+#include "editorcore/TableWatch.h"
 #include "editorcore/WaitCursorScope.h"
 
 #include <algorithm>
@@ -37,15 +38,23 @@ void CEditorCore::OnAppendRow(int col) {
 
 void CEditorCore::AppendRecord(int col) {
     CUGDataSource *source = GetCurrentDataSrc(false);
-    if (source == nullptr || source->AppendRow() != GRID_SUCCESS)
+    if (source == nullptr || source->AppendRow() != GRID_SUCCESS) {
         AfxMessageBox("Could not add record to data source!", MB_ICONHAND, 0);
-    source = GetCurrentDataSrc(false); // a host may have closed it while that was said
+        source = GetCurrentDataSrc(false); // it may have been closed while that was told
+    }
     ShowRowsOfSource();
     const long last = (source != nullptr ? source->GetNumRows() : GetNumberRows()) - 1;
     RedrawRow(last);
     GotoCell(col, last);
     NotifyEdited();
     PostCommandsChanged();
+}
+
+// The records have changed places. A box that was opened while they did, by a notification or while the source was at
+// work, is over another record now.
+void CEditorCore::LoseEdit() {
+    CancelEdit();
+    NoteChange(&TableState::records);
 }
 
 // --- Inserting
@@ -68,7 +77,8 @@ void CEditorCore::OnInsertRows() {
     ChangeRows([&] {
         SettleEdit(); // before the dialog takes the focus: verifying has a question of its own
         long count;
-        if (!AskForRecords("Insert Records", "Number of records: ", &count))
+        const CTableWatch watch(this);
+        if (!AskForRecords("Insert Records", "Number of records: ", &count) || !watch.Holds())
             return;
         ExecInsertRows(GetCurrentRow(), count, true);
         NotifyEdited();
@@ -98,6 +108,8 @@ bool CEditorCore::InsertRecords(CUGDataSource *source, long row, long count, boo
         AfxMessageBox(atEnd ? "Could not append data source record!" : "Could not insert records!", MB_ICONHAND, 0);
         return false;
     }
+    if (!atEnd)
+        LoseEdit();
     SetNumberRows(rowsBefore + (count > 0 ? count : 0), 1);
     m_grid.UpdateWindow();
     RedrawAll();
@@ -136,7 +148,8 @@ void CEditorCore::OnDeleteRows(bool toClipboard) {
             count = bottom - first + 1; // the columns play no part: rows go whole
         } else {
             first = GetCurrentRow();
-            if (!AskForRecords("Delete Records", "Number of records", &count))
+            const CTableWatch watch(this);
+            if (!AskForRecords("Delete Records", "Number of records", &count) || !watch.Holds())
                 return;
         }
         DeleteChosenRows(first, std::min(count, GetNumberRows() - first), toClipboard);
@@ -197,12 +210,14 @@ bool CEditorCore::DeleteRecords(CUGDataSource *source, long firstRow, long lastR
     }
     waiting.End();
     if (result != GRID_SUCCESS) {
+        const CTableWatch watch(this);
         AfxMessageBox("Could not delete records!", MB_ICONHAND, 0);
-        if (GetCurrentDataSrc(false) != nullptr)
+        if (watch.Holds())
             SetNumberRows(rowsBefore, 1);
         NotifyEdited();
         return false;
     }
+    LoseEdit();
     GotoRow(firstRow);
     ClearSelections();
     m_grid.UpdateWindow();

@@ -1,6 +1,7 @@
 // Saving, saving under another name, and telling the host what is open.
 #include "editorcore/EditorCore.h"
 #include "editorcore/MemoryGuard.h"
+#include "editorcore/TableWatch.h"
 #include "grid/PaintingScope.h"
 
 #include <mbstring.h>
@@ -105,12 +106,12 @@ bool CEditorCore::OnSaveAs(const CString &newPath, bool filtered, int filterNumb
     }
     if (GetEditControl() != nullptr)
         SaveEditContents();
-    if (GetCurrentDataSrc(true) == nullptr || !MayWriteTo(newPath))
+    const CTableWatch watch(this);
+    if (GetCurrentDataSrc(true) == nullptr || !MayWriteTo(newPath) || !watch.SameTable())
         return false;
-    // While it was asked an edit may have been begun, or the table been closed.
-    SettleEdit();
+    SettleEdit(); // one begun while it was asked
     CUGDataSource *source = GetCurrentDataSrc(true);
-    if (source == nullptr)
+    if (source == nullptr || !watch.SameTable())
         return false;
     // The working copy is gone once it was written, so it is read back. A file of several tables cannot be: then it
     // stays as it was.
@@ -144,6 +145,7 @@ bool CEditorCore::SaveUnderNewPath(CUGDataSource *source, const CString &newPath
             return false;
         }
         m_strFilePath = newPath;
+        LoseEdit(); // what passes a filter may be all that there is now
         CUGCtrl::SetNumberRows(RowsOfSource(source), 1);
     }
     UpdateTitle();

@@ -240,7 +240,8 @@ public:
     int StartEdit();
     int StartEdit(int key);
     int EditContinue(int dx, int dy);
-    // Ends the edit in progress with nothing written; the cells get the focus that the edit box had.
+    // Ends the edit in progress with nothing written; the cells get the focus that the edit box had. The open list of a
+    // cell closes too, with nothing chosen.
     void CancelEdit();
     CEdit *GetEditControl();
     // What SetCell answered when the text of the last edit was written: where it failed the source has its own text
@@ -322,7 +323,7 @@ private:
     int StepTo(int col, long row);
     UGJoin JoinAt(const CUGCell &cell, int col, long row);
     RECT JoinRect(const UGJoin &join) const;
-    void UpdateSelection();
+    void UpdateSelection(int lastCol, long lastRow);
     void UpdateFocusedType(int lastCol, long lastRow);
     CUGCellType *FocusedType();
     void LeaveLostCells();
@@ -330,6 +331,11 @@ private:
     void RepaintViews();
     CUGDataSource *SourceOfColumn(int col, int *dataCol);
     int TranslatedColumn(int col);
+    int AskToSetCell(int col, long row, CUGCell *cell);
+    int StoreCell(int col, long row, CUGCell *cell);
+    static constexpr int kAnyColumn = -1;
+    void LeaveEditedCell(int col);
+    void CloseList();
     void ShowPopupMenu(int col, long row, int section, POINT screen);
     bool WrapEditCell(int *col, long *row);
     bool FindEditCell(int dx, int *col, long *row);
@@ -339,6 +345,8 @@ private:
     std::vector<CUGCellType *> m_cellTypes;          // borrowed, entries may be null
     std::vector<std::unique_ptr<CUGCellType>> m_builtInTypes;
     CUGCell m_scratch;
+    bool m_scratchInUse = false;
+    CUGLstBox *m_openList = nullptr; // of a drop list cell
     bool m_typeFocused = false; // the snapshot's type has been given the focus
     CMenu m_popupMenu;
     int m_menuCol = -1;

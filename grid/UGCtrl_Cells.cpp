@@ -1,6 +1,8 @@
 // Reading and writing cells through their layers, and the default cells.
 #include "grid/UGCtrl.h"
 
+#include "grid/ValueScope.h"
+
 namespace {
 
 int CopyOut(CUGCell *destination, const CUGCell &source) {
@@ -58,10 +60,24 @@ int CUGCtrl::GetCellRaw(int col, long row, CUGCell *cell) {
 }
 
 int CUGCtrl::SetCell(int col, long row, CUGCell *cell) {
-    if (col >= m_GI.m_cols.m_count || row >= m_GI.m_rows.m_count)
+    const int allowed = AskToSetCell(col, row, cell);
+    return allowed == GRID_SUCCESS ? StoreCell(col, row, cell) : allowed;
+}
+
+// The notification may close the table or show another field in the column: the cell was meant for the one before.
+int CUGCtrl::AskToSetCell(int col, long row, CUGCell *cell) {
+    const auto exists = [=, this] { return col < m_GI.m_cols.m_count && row < m_GI.m_rows.m_count; };
+    if (!exists())
         return GRID_ERROR;
+    const CUGDataSource *source = m_GI.CurrentSource();
+    const int dataCol = TranslatedColumn(col);
     if (!OnSetCell(col, row, cell))
         return GRID_ERROR;
+    const bool same = exists() && (row < 0 || (m_GI.CurrentSource() == source && TranslatedColumn(col) == dataCol));
+    return same ? GRID_SUCCESS : GRID_ERROR;
+}
+
+int CUGCtrl::StoreCell(int col, long row, CUGCell *cell) {
     if (row < 0) {
         CUGCell &heading = col >= 0 ? *m_GI.m_colHeadings[col] : m_GI.m_cornerHeading;
         return heading.CopyFrom(cell);
@@ -70,12 +86,20 @@ int CUGCtrl::SetCell(int col, long row, CUGCell *cell) {
 }
 
 int CUGCtrl::QuickSetText(int col, long row, const char *text) {
-    GetCellRaw(col, row, &m_scratch);
-    m_scratch.SetText(text);
-    return SetCell(col, row, &m_scratch);
+    CUGCell another; // for a notification that sets a further cell
+    CUGCell &cell = m_scratchInUse ? another : m_scratch;
+    const CUGValueScope<bool> inUse(&m_scratchInUse, true);
+    GetCellRaw(col, row, &cell);
+    cell.SetText(text);
+    return SetCell(col, row, &cell);
 }
 
 int CUGCtrl::SetColDefault(int col, CUGCell *cell) {
+    if (!m_GI.m_cols.Contains(col))
+        return GRID_ERROR;
+    const CUGCell &before = *m_GI.m_colDefaults[col];
+    if (before.GetColTranslation() != cell->GetColTranslation() || before.GetDataSrcIndex() != cell->GetDataSrcIndex())
+        LeaveEditedCell(col);
     return m_GI.m_cols.Contains(col) ? m_GI.m_colDefaults[col]->CopyFrom(cell) : GRID_ERROR;
 }
 
@@ -107,6 +131,8 @@ int CUGCtrl::GetDataColNumber(int col) {
 }
 
 int CUGCtrl::SetColTranslation(int col, int dataCol) {
+    if (GetDataColNumber(col) != dataCol)
+        LeaveEditedCell(col);
     if (!m_GI.m_cols.Contains(col))
         return GRID_ERROR;
     return m_GI.m_colDefaults[col]->SetColTranslation(static_cast<short>(dataCol));

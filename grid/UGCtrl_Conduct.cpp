@@ -45,6 +45,8 @@ int CUGCtrl::SetUserSizingMode(int mode) {
 }
 
 int CUGCtrl::EnableColTranslation(int enable) {
+    if (m_GI.m_colTranslationEnabled != (enable != 0))
+        LeaveEditedCell(kAnyColumn);
     m_GI.m_colTranslationEnabled = enable != 0;
     return GRID_SUCCESS;
 }

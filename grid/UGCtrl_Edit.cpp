@@ -17,7 +17,24 @@ void CUGCtrl::DestroyEdit() {
     }
 }
 
+void CUGCtrl::CloseList() {
+    if (m_openList != nullptr)
+        m_openList->Cancel();
+}
+
+// Called before the column of the edit, or of a list, shows something else. The edit's owner may write what was typed.
+void CUGCtrl::LeaveEditedCell(int col) {
+    const bool any = col == kAnyColumn;
+    const bool edited = GetEditControl() != nullptr && (any || m_GI.m_editCol == col);
+    const bool listed = m_openList != nullptr && (any || *m_openList->m_col == col);
+    if (edited && m_grid.m_edit.m_listener != nullptr)
+        m_grid.m_edit.m_listener->EditLosesCell();
+    if (edited || listed)
+        CancelEdit();
+}
+
 void CUGCtrl::CancelEdit() {
+    CloseList();
     if (m_grid.m_edit.GetSafeHwnd() == nullptr)
         return;
     const bool hadFocus = ::GetFocus() == m_grid.m_edit.m_hWnd;

@@ -216,14 +216,17 @@ void CUGCtrl::UpdateState() {
     const long lastRow = rows.m_last;
     const bool rowChanged = rows.m_current != lastRow;
     const bool colChanged = cols.m_current != lastCol;
-    if (rowChanged) {
+    if (rowChanged)
         rows.m_leading = rows.LeadingForCurrent(m_GI.m_scrollMargin);
-        OnRowChange(lastRow, rows.m_current);
-    }
-    if (colChanged) {
+    if (colChanged)
         cols.m_leading = cols.LeadingForCurrent(m_GI.m_scrollMargin);
+    // Noted before it is told: a notification that begins an edit comes here again, and would be told of the same change.
+    rows.m_last = rows.m_current;
+    cols.m_last = cols.m_current;
+    if (rowChanged)
+        OnRowChange(lastRow, rows.m_current);
+    if (colChanged)
         OnColChange(lastCol, GetCurrentCol());
-    }
     if (rowChanged || colChanged)
         OnCellChange(lastCol, GetCurrentCol(), lastRow, rows.m_current);
     if (rows.m_leading != rows.m_lastLeading)
@@ -232,13 +235,11 @@ void CUGCtrl::UpdateState() {
         OnLeftColChange(static_cast<int>(cols.m_lastLeading), GetLeftCol());
     if (rowChanged || colChanged) {
         if (m_GI.m_multiSelect)
-            UpdateSelection();
+            UpdateSelection(lastCol, lastRow);
         UpdateFocusedType(lastCol, lastRow);
     }
     RepaintViews();
     PlaceEdit();
-    rows.m_last = rows.m_current;
-    cols.m_last = cols.m_current;
     rows.m_lastLeading = rows.m_leading;
     cols.m_lastLeading = cols.m_leading;
 }

@@ -9,7 +9,7 @@ bool IsDown(int key) {
 
 } // namespace
 
-void CUGCtrl::UpdateSelection() {
+void CUGCtrl::UpdateSelection(int lastCol, long lastRow) {
     CUGSelectionList &list = m_GI.m_selection;
     const int col = GetCurrentCol();
     const long row = GetCurrentRow();
@@ -18,7 +18,7 @@ void CUGCtrl::UpdateSelection() {
     if (type == UG_MOVED_BY_DRAG || shift) {
         m_grid.InvalidateSelection();
         if (list.IsEmpty()) // an edit has used the block up: it begins again where the move does
-            list.StartBlock(static_cast<int>(m_GI.m_cols.m_last), m_GI.m_rows.m_last);
+            list.StartBlock(lastCol, lastRow);
         if (list.ExtendBlock(col, row) != GRID_SUCCESS)
             list.StartBlock(col, row);
         m_grid.InvalidateSelection();

@@ -29,6 +29,8 @@ CUGDataSource *CUGCtrl::GetDataSource(int index) {
 int CUGCtrl::SetDefaultDataSource(int index) {
     if (!IsLentEntry(index) || m_GI.m_sources[index] == nullptr)
         return GRID_ERROR;
+    if (index != m_GI.m_currentSource)
+        LeaveEditedCell(kAnyColumn);
     m_GI.m_currentSource = index;
     return GRID_SUCCESS;
 }
@@ -36,6 +38,8 @@ int CUGCtrl::SetDefaultDataSource(int index) {
 int CUGCtrl::RemoveDataSource(int index) {
     if (!IsLentEntry(index))
         return GRID_ERROR;
+    if (index == m_GI.m_currentSource)
+        LeaveEditedCell(kAnyColumn);
     if (m_GI.m_sources[index] != nullptr)
         m_GI.m_sources[index]->m_ctrl = nullptr;
     m_GI.m_sources[index] = nullptr;

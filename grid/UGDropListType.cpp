@@ -114,7 +114,7 @@ int CUGDropListType::OpenList() {
     CUGCell cell;
     m_ctrl->GetCell(col, row, &cell);
     m_list.SetCurSel(m_list.FindStringExact(-1, cell.GetText()));
-    m_list.m_open = true;
+    m_list.SetOpen();
     ::SetWindowPos(m_list.m_hWnd, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
     m_list.SetFocus();
     return GRID_SUCCESS;

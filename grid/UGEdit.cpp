@@ -34,6 +34,8 @@ bool CUGEdit::Open(DWORD style, const RECT &rect, CUGGrid *grid, const CUGCell &
         LimitText(m_mask.Length());
         Reformat();
     }
+    GetWindowText(m_textBefore);
+    m_cellBefore = cell.GetText();
     return true;
 }
 
@@ -57,19 +59,46 @@ bool CUGEdit::AskFinish(int col, long row) {
     return answer != 0;
 }
 
+// Nothing was typed, and the cell holds another text than it did then: the box has nothing to say.
+bool CUGEdit::IsOvertaken(int col, long row) {
+    CString text;
+    GetWindowText(text);
+    if (text != m_textBefore)
+        return false;
+    CUGCell cell;
+    return m_ctrl->GetCell(col, row, &cell) == GRID_SUCCESS && m_cellBefore != cell.GetText();
+}
+
+void CUGEdit::NoteTexts(int col, long row) {
+    if (m_hWnd == nullptr)
+        return;
+    GetWindowText(m_textBefore);
+    CUGCell cell;
+    m_ctrl->GetCell(col, row, &cell);
+    m_cellBefore = cell.GetText();
+}
+
 // What was typed, into the cell that the box stands over: a notification may have made another one current
-// meanwhile, as when a key appends a record, and the text must not end up there.
-void CUGEdit::Write(int col, long row) {
+// meanwhile, as when a key appends a record, and the text must not end up there. False where the notification ended the
+// edit: what the cell shows by then may be another field or record.
+bool CUGEdit::Write(int col, long row) {
+    const HWND box = m_hWnd;
     CString text;
     GetWindowText(text);
     CUGCell cell;
     m_ctrl->GetCellRaw(col, row, &cell);
     cell.SetText(text);
-    m_result = m_ctrl->SetCell(col, row, &cell);
+    const int allowed = m_ctrl->AskToSetCell(col, row, &cell);
+    if (m_hWnd != box)
+        return false;
+    m_result = allowed == GRID_SUCCESS ? m_ctrl->StoreCell(col, row, &cell) : allowed;
     m_ctrl->RedrawCell(col, row); // what the box does not cover, and where else a locked column shows
     m_written = true;
+    if (m_hWnd == box)
+        NoteTexts(col, row);
     if (m_listener != nullptr)
         m_listener->EditWritten();
+    return true;
 }
 
 // 1: nothing more is owed, and the edit may move on: the text was handed to the cell, or there was nothing to
@@ -85,9 +114,14 @@ int CUGEdit::Finish() {
     const long row = m_ctrl->m_GI.m_editRow;
     const HWND box = m_hWnd;
     const CUGValueScope<bool> finishing(&m_finishing, true);
+    if (IsOvertaken(col, row)) {
+        m_active = false;
+        return 1;
+    }
     if (!AskFinish(col, row))
         return 0; // and the finish stays owed
-    Write(col, row);
+    if (!Write(col, row))
+        return 0;
     if (m_hWnd != nullptr && m_hWnd != box)
         return 0; // the write began another edit
     m_active = false; // a focus that came back owes nothing: the text stands

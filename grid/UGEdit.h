@@ -16,6 +16,7 @@ class CUGEditListener {
 public:
     virtual void EditTextChanged() = 0; // by whatever way
     virtual void EditWritten() = 0;     // the cell has been written, or has refused the text
+    virtual void EditLosesCell() = 0;   // the cell shows something else in a moment: it can be written now for the last time
 
 protected:
     ~CUGEditListener() = default;
@@ -49,13 +50,16 @@ private:
 
     int Finish();
     bool AskFinish(int col, long row);
-    void Write(int col, long row);
+    bool Write(int col, long row);
+    bool IsOvertaken(int col, long row);
+    void NoteTexts(int col, long row);
     void FinishAndContinue(int dx, int dy);
     bool PassMask(char character);
     void Reformat();
 
     CUGCtrl *m_ctrl = nullptr; // borrowed, set by Open
     CUGEditMask m_mask;
+    CString m_textBefore, m_cellBefore; // of the box and its cell, when it was opened or written last
     bool m_maskBusy = false;   // the mask code itself is changing the text
     bool m_focusSeen = false;
     bool m_finishing = false;  // OnEditFinish is being asked: the box stays, whoever takes the focus

@@ -15,8 +15,29 @@ BEGIN_MESSAGE_MAP(CUGLstBox, CListBox)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
+void CUGLstBox::SetOpen() {
+    m_open = true;
+    m_cancelled = false;
+    m_ctrl->m_openList = this;
+}
+
+// The control knows of a list while it is open and while an item is told.
+void CUGLstBox::LeaveControl() {
+    if (!m_choosing && m_ctrl != nullptr && m_ctrl->m_openList == this)
+        m_ctrl->m_openList = nullptr;
+}
+
+void CUGLstBox::Cancel() {
+    m_cancelled = true;
+    *m_col = -1;
+    *m_row = -1;
+    Close();
+}
+
 void CUGLstBox::Close() {
-    if (!std::exchange(m_open, false) || GetSafeHwnd() == nullptr)
+    const bool open = std::exchange(m_open, false);
+    LeaveControl();
+    if (!open || GetSafeHwnd() == nullptr)
         return;
     if (::GetFocus() == m_hWnd)
         m_ctrl->m_grid.SetFocus();
@@ -26,6 +47,7 @@ void CUGLstBox::Close() {
 // The list may also go with the control.
 void CUGLstBox::OnDestroy() {
     m_open = false;
+    LeaveControl();
     CListBox::OnDestroy();
 }
 
@@ -45,6 +67,9 @@ void CUGLstBox::Take() {
         m_ctrl->OnCellTypeNotify(kDropListTypeId, col, row, kItemChosen,
                                  reinterpret_cast<LPARAM>(static_cast<const char *>(text)));
     }
+    LeaveControl();
+    if (m_cancelled)
+        return;
     CUGCell cell;
     m_ctrl->GetCellRaw(col, row, &cell);
     cell.SetText(text);

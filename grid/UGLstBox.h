@@ -21,6 +21,10 @@ public:
 
     // Leaves the markers alone; the focus goes to the cells when the list has it.
     void Close();
+    // The cell goes, or shows something else: the list closes, and an item that is being told is not written.
+    void Cancel();
+    // It is on the screen.
+    void SetOpen();
 
 protected:
     DECLARE_MESSAGE_MAP()
@@ -32,6 +36,8 @@ protected:
 
 private:
     void Take();
+    void LeaveControl();
 
     bool m_choosing = false; // an item is being told
+    bool m_cancelled = false;
 };

@@ -9,6 +9,7 @@
 
 #include <iterator>
 #include <optional>
+#include <utility>
 
 namespace Search {
 
@@ -83,13 +84,13 @@ bool CellPattern::ReplaceFirst(const std::string &text, const std::string &forma
         boost::smatch match;
         if (!boost::regex_search(text, match, m_compiled->regex))
             return false;
-        replaced->assign(text.begin(), match[0].first);
-        match.format(std::back_inserter(*replaced), m_compiled->WithLastClosed(format, match),
+        std::string whole(text.begin(), match[0].first);
+        match.format(std::back_inserter(whole), m_compiled->WithLastClosed(format, match),
                      boost::regex_constants::format_first_only, m_compiled->regex);
-        replaced->append(match[0].second, text.end());
+        whole.append(match[0].second, text.end());
+        *replaced = std::move(whole);
         return true;
     } catch (const std::runtime_error &) {
-        replaced->clear();
         return false;
     }
 }

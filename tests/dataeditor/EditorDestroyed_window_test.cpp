@@ -165,7 +165,7 @@ protected:
         if (by == By::host)
             m_pumping.m_onPump = [this] { Destroy(); };
         if (by == By::source)
-            m_source->m_onDone = [this](const std::string &operation) {
+            m_source->m_onCall = [this](const std::string &operation) {
                 if (operation == m_operation)
                     Destroy();
             };
@@ -399,7 +399,7 @@ TEST_F(EditorDestroyedTest, WhileATableComesUpOrIsAskedFor) {
     const auto load = [this](auto &editor) {
         m_source = new RecordingSource(&m_log, 2, 2);
         m_pumping.m_sources.push_back(m_source);
-        m_source->m_onDone = [this](const std::string &operation) {
+        m_source->m_onCall = [this](const std::string &operation) {
             if (operation == m_operation)
                 Destroy();
         };

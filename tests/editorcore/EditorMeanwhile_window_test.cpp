@@ -74,4 +74,104 @@ TEST_F(EditorMeanwhileTest, ACloseThatWasRefusedCanBeAskedForAgain) {
     EXPECT_TRUE(editor.CloseDataSource(false));
 }
 
+// --- Records
+
+TEST_F(EditorMeanwhileTest, ATableThatIsClosedWhileARefusedAppendIsToldIsNotAskedAgain) {
+    TestEditor &editor = OpenFile("t.dat");
+    m_source->m_results["AppendRow"] = GRID_ERROR;
+    TestApp().m_whileUp = [&](const std::string &) {
+        editor.CloseDataSource(false);
+        m_service.m_sources.clear();
+    };
+    editor.OnAppendRow(0);
+    EXPECT_EQ("cur=(0,0) size=0x0", editor.State());
+}
+
+TEST_F(EditorMeanwhileTest, ATableThatIsClosedWhileARefusedDeletionIsToldHasNoRows) {
+    TestEditor &editor = OpenFile("t.dat");
+    m_source->m_results["DeleteRow"] = GRID_ERROR;
+    TestApp().m_whileUp = [&](const std::string &) { editor.CloseDataSource(false); };
+    EXPECT_FALSE(editor.ExecDeleteRows(0, 0));
+    EXPECT_EQ("cur=(0,0) size=0x0", editor.State());
+}
+
+TEST_F(EditorMeanwhileTest, ADeletionThatWasAskedForInOneTableTakesNoRecordsOfAnother) {
+    TestEditor &editor = OpenFile("t.dat");
+    RecordingSource *other = Source(2, 3, "other");
+    const std::string path = MakeFile("other.dat");
+    WithDialog act([&](HWND dialog) {
+        EXPECT_TRUE(editor.LoadData(path.c_str(), nullptr, kEditNormal, ""));
+        ::SendMessageA(dialog, WM_COMMAND, IDOK, 0);
+    });
+    editor.OnDeleteRows(false);
+    EXPECT_EQ(3u, other->m_rows.size());
+}
+
+TEST_F(EditorMeanwhileTest, AnInsertionThatWasAskedForInOneTableMakesNoRecordsInAnother) {
+    TestEditor &editor = OpenFile("t.dat");
+    RecordingSource *other = Source(2, 3, "other");
+    const std::string path = MakeFile("other.dat");
+    WithDialog act([&](HWND dialog) {
+        EXPECT_TRUE(editor.LoadData(path.c_str(), nullptr, kEditNormal, ""));
+        ::SendMessageA(dialog, WM_COMMAND, IDOK, 0);
+    });
+    editor.OnInsertRows();
+    EXPECT_EQ(3u, other->m_rows.size());
+}
+
+TEST_F(EditorMeanwhileTest, ADeletionIsNotDoneWhereTheRecordsHaveMovedMeanwhile) {
+    TestEditor &editor = OpenFile("t.dat");
+    WithDialog act([&](HWND dialog) {
+        m_source->InsertRow(0);
+        editor.OnDataSourceNotify(0, 1, 0);
+        ::SendMessageA(dialog, WM_COMMAND, IDOK, 0);
+    });
+    editor.OnDeleteRows(false);
+    EXPECT_EQ(3u, m_source->m_rows.size());
+}
+
+TEST_F(EditorMeanwhileTest, ADeletionIsDoneWhereRecordsWereAppendedMeanwhile) {
+    TestEditor &editor = OpenFile("t.dat");
+    WithDialog act([&](HWND dialog) {
+        EXPECT_TRUE(editor.ExecInsertRows(2, 1, false));
+        ::SendMessageA(dialog, WM_COMMAND, IDOK, 0);
+    });
+    editor.OnDeleteRows(false);
+    ASSERT_EQ(2u, m_source->m_rows.size());
+    EXPECT_EQ("0.1", m_source->Text(0, 0));
+}
+
+TEST_F(EditorMeanwhileTest, ATableThatWasLoadedWhileAnotherOnesOverwritingIsAskedForIsNotSavedThere) {
+    TestEditor &editor = OpenFile("t.dat");
+    Source(2, 3, "other");
+    const std::string path = MakeFile("other.dat"), target = MakeFile("new.dat");
+    TestApp().Answer({IDYES});
+    TestApp().m_whileUp = [&](const std::string &) { editor.LoadData(path.c_str(), nullptr, kEditNormal, ""); };
+    EXPECT_FALSE(editor.OnSaveAs(target.c_str(), false, -1));
+    EXPECT_EQ(std::string::npos, m_log.Take().find("SaveAs"));
+}
+
+TEST_F(EditorMeanwhileTest, AnOrderThatWasAskedForInOneTableIsNotGivenToAnother) {
+    TestEditor &editor = OpenFile("t.dat");
+    Source(3, 3, "other");
+    const std::string path = MakeFile("other.dat");
+    m_service.m_onOrder = [&](CStringArray *) {
+        return editor.LoadData(path.c_str(), nullptr, kEditNormal, "");
+    };
+    editor.OnOrderCols(nullptr);
+    EXPECT_EQ("0,1,2 of 0,1,2", editor.Order());
+    EXPECT_FALSE(editor.Commands()->CanUndo());
+}
+
+TEST_F(EditorMeanwhileTest, FieldsThatWereAskedForInOneTableAreNotInTheHistoryOfAnother) {
+    TestEditor &editor = OpenFile("t.dat");
+    Source(3, 3, "other");
+    const std::string path = MakeFile("other.dat");
+    m_service.m_onVisibility = [&](CStringArray &, CArray<bool, bool> &) {
+        editor.LoadData(path.c_str(), nullptr, kEditNormal, "");
+    };
+    editor.OnUnHideCols();
+    EXPECT_FALSE(editor.Commands()->CanUndo());
+}
+
 } // namespace

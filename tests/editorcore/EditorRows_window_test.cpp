@@ -18,7 +18,7 @@ protected:
     static std::string Describe(HWND dialog) {
         return WindowText(dialog) + "|" + WindowText(::GetDlgItem(dialog, IDC_RECORDS_PROMPT)) + "|" +
                WindowText(::GetDlgItem(dialog, IDC_RECORDS_COUNT)) + "|" +
-               (::IsWindowVisible(::GetDlgItem(dialog, IDC_RECORDS_NO_UNDO)) ? "warned" : "");
+               (::GetWindowLongA(::GetDlgItem(dialog, IDC_RECORDS_NO_UNDO), GWL_STYLE) & WS_VISIBLE ? "warned" : "");
     }
     static void Spin(HWND dialog, int delta) {
         NMUPDOWN notice{};

@@ -9,8 +9,10 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 class TestEditor : public CEditorCore {
@@ -53,7 +55,17 @@ public:
     std::vector<std::string> m_cellChanges;
     bool m_notesCellChanges = false;
 
+    // What a host does in these notifications.
+    std::function<void()> m_onCellChange, m_onSetCell;
+
+    int OnSetCell(int col, long row, CUGCell *cell) override {
+        if (m_onSetCell)
+            std::exchange(m_onSetCell, nullptr)();
+        return CEditorCore::OnSetCell(col, row, cell);
+    }
     void OnCellChange(int oldCol, int newCol, long oldRow, long newRow) override {
+        if (m_onCellChange)
+            std::exchange(m_onCellChange, nullptr)();
         if (!m_notesCellChanges)
             return;
         m_cellChanges.push_back(std::to_string(oldCol) + "," + std::to_string(oldRow) + ">" +

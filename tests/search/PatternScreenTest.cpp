@@ -84,6 +84,7 @@ TEST(PatternScreen, WhatIsNotToldIsTakenWider) {
     EXPECT_TRUE(MayMatch(Typed("(a|b)\\1", kWholeCell), "ab")); // and the expression says no
     EXPECT_FALSE(MayMatch(Typed("(a|b)\\1", kWholeCell), "cc"));
     EXPECT_TRUE(MayMatch(Typed("(?=x)a", kWholeCell), "a"));
+    EXPECT_FALSE(MayMatch(Typed("(?=x)a", kWholeCell), "b")); // what follows what is only looked at is told
     EXPECT_TRUE(MayMatch(Typed("[[.a.]b]", kWholeCell), "c"));
 }
 

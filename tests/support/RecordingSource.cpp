@@ -40,8 +40,8 @@ RecordingSource::~RecordingSource() {
 // Notes the call; nonzero when the script lets it fail.
 int RecordingSource::Done(const std::string &operation, const std::string &arguments) {
     m_log->Note(m_name + "." + operation + "(" + arguments + ")");
-    if (m_onDone)
-        m_onDone(operation);
+    if (m_onCall)
+        m_onCall(operation);
     const auto result = m_results.find(operation);
     return result != m_results.end() ? result->second : GRID_SUCCESS;
 }

@@ -66,9 +66,9 @@ public:
     int m_optionsSet = 0;               // SetOption calls
     long m_reads = 0;                     // GetCell calls
     std::vector<long> m_rowsRead;         // of those of cells, not of the side heading
+    std::function<void(const std::string &)> m_onCall; // while an operation is at work, with its name
     std::function<bool(long)> m_passes; // whether a record, 1-based, passes the filter; empty: it cannot be told
     std::function<int(int, long)> m_onSetCell; // what writing a column and row answers; empty: success
-    std::function<void(const std::string &)> m_onDone; // called within each noted operation, by its name
     std::vector<int> m_types;           // by column; 0 where there is none
     long m_growsBy = -1;                  // rows that RequestMoreRows reports; below 0 it is not supported
 
