@@ -112,14 +112,17 @@ TEST(FilterExpression, TheTableItselfIsNoSetOfValues) {
     EXPECT_EQ(passing(*table, "A in ('b', 'c')"), "1 ");
 }
 
-TEST(FilterExpression, AMemoMayBeLong) {
+TEST(FilterExpression, TheBeginningOfALongMemoIsLookedAt) {
     MemoryFiles files;
     std::string memo(512, '\0');
     memo[6] = 0x02; // blocks of 512 bytes
     memo[7] = 0x00;
-    files.files["t.fpt"] = memo + raw("\0\0\0\x01\0\x1E\x84\x80") + std::string(1'999'999, 'a') + "b";
-    const auto table = openBytes(files, header(0xF5, 1, 11, descriptor("NOTE", 'M', 10)) + "          1");
-    EXPECT_EQ(passing(*table, "NOTE like 'a%b' and length(NOTE) = 2000000"), "0 ");
+    files.files["t.fpt"] = memo + raw("\0\0\0\x01\0\x1E\x84\x80") + std::string(65'535, 'a') + "b" + std::string(1'934'464, 'c');
+    const std::string bytes = header(0xF5, 1, 11, descriptor("NOTE", 'M', 10), 3) + "          1";
+    EXPECT_EQ(passing(*openBytes(files, bytes), "NOTE like 'a%b' and length(NOTE) = 65536"), "0 ");
+    files.files["t.fpt"] = memo + raw("\0\0\0\x01\0\x1E\x84\x80") + "ab" + std::string(1'999'998, '\x80');
+    EXPECT_EQ(passing(*openBytes(files, bytes), "length(NOTE) = 21846 and octet_length(NOTE) = 65534"), "0 ")
+        << "three bytes each, and no half character";
 }
 
 TEST(FilterExpression, AFieldMayBeCalledLikeARecordsPlaceOrLikeAKeyword) {
