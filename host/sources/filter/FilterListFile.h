@@ -4,13 +4,15 @@
 // table alone, and what does not fit is refused as a whole.
 #pragma once
 
+#include "filter/Expression.h"
 #include "filter/FilterList.h"
 
 namespace filter {
 
 inline constexpr std::size_t kLargestListFile = 16 * 1024 * 1024; // bytes
 inline constexpr std::size_t kMostFilters = 5000;
-inline constexpr std::size_t kLongestListText = 100'000; // bytes of a name or an expression in UTF-8
+inline constexpr std::size_t kLongestListText =
+    kLongestExpression; // bytes of a name or an expression in UTF-8
 
 // `filters` is filled, in the order of the numbers, when the list is one. Else the message is the reason
 // alone.
