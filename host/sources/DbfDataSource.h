@@ -26,7 +26,8 @@ public:
         std::function<bool(CDbfDataSource &)> mayClose;
         // Somebody else changed the file since it was read. True overwrites it. Empty: it is not overwritten.
         std::function<bool(const std::string &path)> mayOverwrite;
-        // A filter is being worked out: records done, and all of them. False stops it. Called every few hundred.
+        // A filter is being worked out: records done, and all of them. False stops it. Called every few
+        // hundred, and within a record that takes long.
         std::function<bool(std::uint64_t done, std::uint64_t all)> progress;
     };
 

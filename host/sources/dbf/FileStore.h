@@ -50,7 +50,8 @@ public:
     // False when there is no such file.
     virtual bool stat(const std::string &path, FileStamp &stamp) = 0;
     virtual bool isWritable(const std::string &path) = 0;
-    // Makes a new file of an unused name in the folder of `target`.
+    // Makes a new file of an unused name in the folder of `target`, with the permissions of `target` where
+    // there is one.
     virtual Result createBeside(const std::string &target, std::unique_ptr<FileWriter> &writer) = 0;
     // Gives `from` the name `to` in one step, in place of what had that name; durable on success. On failure
     // both files are as they were. Neither may be mapped.

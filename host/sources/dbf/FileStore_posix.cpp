@@ -125,12 +125,20 @@ public:
 
     Result createBeside(const std::string &target, std::unique_ptr<FileWriter> &writer) override {
         struct stat info {};
-        const mode_t mode = ::stat(target.c_str(), &info) == 0 ? info.st_mode & 0777 : 0666;
+        const bool exists = ::stat(target.c_str(), &info) == 0;
+        const mode_t mode = exists ? info.st_mode & 0777 : 0666;
         for (int attempt = 0; attempt < 1000; ++attempt) {
             const std::string path =
                 target + "." + std::to_string(::getpid()) + "-" + std::to_string(attempt) + ".tmp";
             Descriptor fd(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
             if (fd.get() >= 0) {
+                // What the process takes away from the mode of new files, it does not take away from a file
+                // there is.
+                if (exists && ::fchmod(fd.get(), mode) != 0) {
+                    Result refused = Result::failure(reason("Cannot set the permissions of", path));
+                    remove(path);
+                    return refused;
+                }
                 writer = std::make_unique<PosixWriter>(std::move(fd), path);
                 return Result::success();
             }

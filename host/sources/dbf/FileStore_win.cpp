@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include <aclapi.h>
+
 namespace dbf {
 namespace {
 
@@ -29,12 +31,13 @@ public:
     explicit Handle(HANDLE handle) : handle_(handle == INVALID_HANDLE_VALUE ? nullptr : handle) {}
     Handle(Handle &&other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
     Handle &operator=(const Handle &) = delete;
-    ~Handle() {
+    ~Handle() { close(); }
+    HANDLE get() const { return handle_; }
+    void close() {
         if (handle_) {
-            CloseHandle(handle_);
+            CloseHandle(std::exchange(handle_, nullptr));
         }
     }
-    HANDLE get() const { return handle_; }
 
 private:
     HANDLE handle_;
@@ -94,6 +97,51 @@ private:
     std::string path_;
 };
 
+// Who may do what with a file.
+class Permissions {
+public:
+    // Without any where the file system knows none, or where there is no such file.
+    explicit Permissions(std::string path) {
+        if (GetNamedSecurityInfoA(path.data(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
+                                  &list_, nullptr, &descriptor_) != ERROR_SUCCESS) {
+            list_ = nullptr;
+        }
+    }
+    Permissions(const Permissions &) = delete;
+    Permissions &operator=(const Permissions &) = delete;
+    ~Permissions() { LocalFree(descriptor_); }
+
+    // Did somebody set them, so that they are other than what the folder gives to new files?
+    bool areOwn() const {
+        for (WORD i = 0; list_ && i < list_->AceCount; ++i) {
+            void *entry = nullptr;
+            if (GetAce(list_, i, &entry) && !(static_cast<ACE_HEADER *>(entry)->AceFlags & INHERITED_ACE)) {
+                return true;
+            }
+        }
+        return list_ && (control() & SE_DACL_PROTECTED);
+    }
+
+    // The handle has WRITE_DAC. Everything as it is, what came from the folder too: the functions that work
+    // it out anew add to what was given.
+    bool giveTo(HANDLE file) const {
+        const SECURITY_DESCRIPTOR_CONTROL inherited =
+            control() & SE_DACL_AUTO_INHERITED ? SE_DACL_AUTO_INHERIT_REQ : 0;
+        return SetSecurityDescriptorControl(descriptor_, SE_DACL_AUTO_INHERIT_REQ, inherited) &&
+               SetKernelObjectSecurity(file, DACL_SECURITY_INFORMATION, descriptor_);
+    }
+
+private:
+    SECURITY_DESCRIPTOR_CONTROL control() const {
+        SECURITY_DESCRIPTOR_CONTROL bits = 0;
+        DWORD revision = 0;
+        return GetSecurityDescriptorControl(descriptor_, &bits, &revision) ? bits : 0;
+    }
+
+    PSECURITY_DESCRIPTOR descriptor_ = nullptr;
+    ACL *list_ = nullptr; // within the descriptor
+};
+
 std::int64_t ticks(const FILETIME &time) {
     return static_cast<std::int64_t>(time.dwHighDateTime) << 32 | time.dwLowDateTime;
 }
@@ -135,12 +183,20 @@ public:
     }
 
     Result createBeside(const std::string &target, std::unique_ptr<FileWriter> &writer) override {
+        const Permissions permissions(target);
         for (int attempt = 0; attempt < 1000; ++attempt) {
             const std::string path =
                 target + "." + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(attempt) + ".tmp";
-            Handle handle(
-                CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+            Handle handle(CreateFileA(path.c_str(), GENERIC_WRITE | WRITE_DAC, 0, nullptr, CREATE_NEW,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr));
             if (handle.get()) {
+                // Before anything is written; until the handle is closed nobody else can open the file.
+                if (permissions.areOwn() && !permissions.giveTo(handle.get())) {
+                    Result refused = Result::failure(reason("Cannot set the permissions of", path));
+                    handle.close();
+                    remove(path);
+                    return refused;
+                }
                 writer = std::make_unique<WinWriter>(std::move(handle), path);
                 return Result::success();
             }
@@ -151,7 +207,8 @@ public:
         return Result::failure("Cannot create a new file beside \"" + target + "\"");
     }
 
-    // MoveFileEx and not ReplaceFile: the latter goes through states in which neither file has the name.
+    // MoveFileEx and not ReplaceFile: the latter goes through states in which neither file has the name. What
+    // it would do for the permissions, createBeside has done.
     Result replace(const std::string &from, const std::string &to) override {
         if (!MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
             return Result::failure(reason("Cannot replace", to));

@@ -16,8 +16,8 @@ constexpr std::array<std::uint8_t, 4> kDbase4Mark = {0xFF, 0xFF, 0x08, 0x00};
 constexpr std::uint8_t kTextEnd = 0x1A;
 constexpr char kSoftReturn = '\x8D';
 
-std::string textOf(Bytes bytes) {
-    return {bytes.begin(), bytes.end()};
+Bytes beginningOf(Bytes bytes, std::uint64_t length = kLongestMemoText) {
+    return bytes.first(static_cast<std::size_t>(std::min<std::uint64_t>({length, bytes.size(), kLongestMemoText})));
 }
 
 // The text editor of dBASE III breaks lines with 0x8D 0x0A; to everybody else that is a line end like others.
@@ -72,8 +72,8 @@ std::string MemoFile::text(std::uint32_t block) const {
 }
 
 std::string MemoFile::textWithMark(Bytes from) const {
-    const auto end = std::find(from.begin(), from.end(), kTextEnd);
-    std::string text(from.begin(), end);
+    from = beginningOf(from);
+    std::string text(from.begin(), std::find(from.begin(), from.end(), kTextEnd));
     hardenReturns(text);
     return text;
 }
@@ -91,9 +91,8 @@ std::string MemoFile::textWithLength(Bytes from) const {
     } else {
         return textWithMark(from); // a text taken over from a dBASE III file
     }
-    const Bytes rest = from.subspan(kBlockHeaderLength);
-    std::string text =
-        textOf(rest.first(static_cast<std::size_t>(std::min<std::uint64_t>(length, rest.size()))));
+    const Bytes stored = beginningOf(from.subspan(kBlockHeaderLength), length);
+    std::string text(stored.begin(), stored.end());
     if (format_ == MemoFormat::dbase4) {
         hardenReturns(text);
     }

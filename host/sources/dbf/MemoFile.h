@@ -11,6 +11,10 @@ enum class MemoFormat {
     foxpro, // .fpt: big-endian numbers
 };
 
+// Bytes of a text that are handed out: what cells, searches and filters look at. No cell is wide enough for more, and a
+// memo file from a stranger may hold a text of any length.
+inline constexpr std::size_t kLongestMemoText = 65'536;
+
 class MemoFile {
 public:
     static Result open(FileStore &files, const std::string &path, MemoFormat format,
@@ -19,8 +23,8 @@ public:
     const std::string &path() const { return path_; }
     MemoFormat format() const { return format_; }
     Bytes bytes() const { return file_->bytes(); }
-    // What stands at a block; empty for block 0 and for a block outside the file. A length that runs past the
-    // end of the file is cut there.
+    // What stands at a block, its first kLongestMemoText bytes at most; empty for block 0 and for a block outside the
+    // file. A length that runs past the end of the file is cut there.
     std::string text(std::uint32_t block) const;
 
 private:

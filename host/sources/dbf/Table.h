@@ -73,7 +73,8 @@ public:
     void watch(RecordWatcher *watcher) { watcher_ = watcher; }
     void unwatch(const RecordWatcher *watcher) { watcher_ = watcher_ == watcher ? nullptr : watcher_; }
 
-    // Empty for a row or column that does not exist.
+    // Empty for a row or column that does not exist. Of a memo the first kLongestMemoText bytes; memos cannot be set,
+    // so that a text that is shown in part is never written.
     std::string cellText(Row row, std::size_t column) const;
     bool isMarkedDeleted(Row row) const;
     // The record as it would be saved, the deleted flag first; empty for a row that does not exist.

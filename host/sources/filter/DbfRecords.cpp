@@ -57,6 +57,7 @@ void DbfRecords::read(Row row, std::size_t field, Value &value) const {
         readNumber(value);
     } else if (!value.text.empty()) {
         value.text = toUtf8(value.text, m_page);
+        cutUtf8(value.text, kLongestValue);
     }
 }
 

@@ -1,6 +1,6 @@
 // A table's records as a filter sees them. Numbers are numbers, empty ones and empty dates are NULL, dates are
-// texts YYYY-MM-DD, and everything else is the text that the grid shows, up to its first zero byte. Only the line
-// breaks of memos, for which the grid shows blanks, are as they are.
+// texts YYYY-MM-DD, and everything else is the text that the grid shows, up to its first zero byte and as far as a value
+// goes. Only the line breaks of memos, for which the grid shows blanks, are as they are.
 #pragma once
 
 #include "dbf/Table.h"

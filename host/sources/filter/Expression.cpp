@@ -1,5 +1,8 @@
 #include "filter/Expression.h"
 
+#include "filter/Functions.h"
+#include "filter/Ticks.h"
+
 #include <sqlite3.h>
 
 #include <algorithm>
@@ -9,22 +12,26 @@
 namespace filter {
 namespace {
 
-constexpr int kLongestText = 64'000'000; // bytes that a value may grow to while it is reckoned with: a memo, at most
+constexpr int kLongestText = 2 * kLongestValue; // bytes that a value may grow to while it is reckoned with
+constexpr int kLongestPattern = 1000;           // bytes; a long one takes a fifth of a second on a long text
 constexpr int kDeepest = 200;
+constexpr int kMostArguments = 100;
+constexpr int kStepsPerLook = 1000;
 
 const char *const kLowMemory = "Low memory - cannot carry out operation!";
 const char *const kOneRecordOnly = "A filter looks at one record at a time; it cannot hold a SELECT or a record's place.";
 
 struct Limits {
-    int selects = 0;          // of the statement being prepared
+    int selects = 0;           // of the statement being prepared
     bool rowIdIsField = false; // there is a field of this name
 };
 
 // Nothing but this one table is read, by one SELECT.
-int authorize(void *client, int action, const char *, const char *column, const char *, const char *) {
+int authorize(void *client, int action, const char *, const char *column, const char *,
+              const char *) noexcept {
     auto &limits = *static_cast<Limits *>(client);
     switch (action) {
-    case SQLITE_FUNCTION: return SQLITE_OK;
+    case SQLITE_FUNCTION: return column && isAllowedFunction(column) ? SQLITE_OK : SQLITE_DENY;
     case SQLITE_SELECT: return ++limits.selects == 1 ? SQLITE_OK : SQLITE_DENY;
     // A record's place is no property of the record: it changes with what is inserted before it.
     case SQLITE_READ:
@@ -84,6 +91,9 @@ std::string explained(const std::string &message, std::string_view text, std::si
         return token.starts_with('\'') ? "The text that begins with " + token + " has no closing quote."
                                        : "\"" + token + "\" cannot be read.";
     }
+    if (begins("not authorized to use function")) {
+        return "The function \"" + named(message) + "\" cannot be used in a filter.";
+    }
     if (begins("not authorized") || begins("access to")) {
         return kOneRecordOnly;
     }
@@ -107,12 +117,17 @@ struct Expression::Database {
 };
 
 bool Expression::Database::open(Walk &walk) {
-    if (sqlite3_open_v2(":memory:", &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_MEMORY, nullptr) != SQLITE_OK ||
-        addRecordsTable(handle, walk) != SQLITE_OK) {
+    if (sqlite3_open_v2(":memory:", &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_MEMORY, nullptr) !=
+            SQLITE_OK ||
+        addRecordsTable(handle, walk) != SQLITE_OK || addFunctions(handle, walk) != SQLITE_OK) {
         return false;
     }
+    const auto look = [](void *client) { return static_cast<Walk *>(client)->goesOnInTime() ? 0 : 1; };
+    sqlite3_progress_handler(handle, kStepsPerLook, look, &walk);
     sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, kLongestText);
+    sqlite3_limit(handle, SQLITE_LIMIT_LIKE_PATTERN_LENGTH, kLongestPattern);
     sqlite3_limit(handle, SQLITE_LIMIT_EXPR_DEPTH, kDeepest);
+    sqlite3_limit(handle, SQLITE_LIMIT_FUNCTION_ARG, kMostArguments);
     const std::vector<Field> &fields = walk.records->fields();
     limits.rowIdIsField = std::any_of(fields.begin(), fields.end(), isRowId);
     return sqlite3_set_authorizer(handle, authorize, &limits) == SQLITE_OK;
@@ -134,7 +149,7 @@ bool Expression::Database::prepare(const std::string &before, std::string_view t
         return false;
     }
     if (code == SQLITE_NOMEM) {
-        mistake = {kLowMemory, Mistake::kNowhere};
+        mistake = {kLowMemory, Mistake::kNowhere, true};
         return false;
     }
     const int offset = sqlite3_error_offset(handle);
@@ -156,11 +171,16 @@ std::unique_ptr<Expression> Expression::compile(std::string_view text, const Rec
         mistake = {"The expression holds a character that cannot be read.", zero};
         return nullptr;
     }
+    if (text.size() > kLongestExpression) {
+        mistake = {"The expression has more than " + std::to_string(kLongestExpression) + " bytes.",
+                   Mistake::kNowhere};
+        return nullptr;
+    }
     std::unique_ptr<Expression> made(new Expression);
     made->m_walk.records = &records;
     made->m_database = std::make_unique<Database>();
     if (!made->m_database->open(made->m_walk)) {
-        mistake = {kLowMemory, Mistake::kNowhere};
+        mistake = {kLowMemory, Mistake::kNowhere, true};
         return nullptr;
     }
     // Bare, so that its end is where the user's text ends and a mistake is named as the user made it; then in
@@ -185,7 +205,8 @@ Expression::Outcome Expression::walk(Row first, Row last, const std::function<vo
     m_walk.first = m_walk.row = first;
     m_walk.last = last;
     m_walk.goOn = &goOn;
-    m_walk.stopped = false;
+    m_walk.stopped = m_walk.failed = false;
+    m_walk.asked = ticks();
     sqlite3_stmt *statement = m_database->statement;
     const std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_reset)> begun(statement, sqlite3_reset); // `passes` may throw
     int code = sqlite3_step(statement);
@@ -194,8 +215,9 @@ Expression::Outcome Expression::walk(Row first, Row last, const std::function<vo
     }
     m_walk.goOn = nullptr;
     if (code != SQLITE_DONE && !m_walk.stopped) {
-        mistake = {code == SQLITE_NOMEM ? kLowMemory : sentence(sqlite3_errmsg(m_database->handle)),
-                   Mistake::kNowhere};
+        const bool isLowMemory = code == SQLITE_NOMEM || m_walk.failed;
+        mistake = {isLowMemory ? kLowMemory : sentence(sqlite3_errmsg(m_database->handle)), Mistake::kNowhere,
+                   isLowMemory};
     }
     return code == SQLITE_DONE ? Outcome::done : m_walk.stopped ? Outcome::stopped : Outcome::failed;
 }

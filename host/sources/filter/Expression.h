@@ -17,7 +17,10 @@ struct Mistake {
 
     std::string text;
     std::size_t position = kNowhere; // the byte of the expression at which it was noticed
+    bool isLowMemory = false;        // no mistake of the expression's
 };
+
+inline constexpr std::size_t kLongestExpression = 100'000; // bytes: more than an edit box takes characters
 
 class Expression {
 public:

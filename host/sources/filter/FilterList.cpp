@@ -1,104 +1,12 @@
 #include "filter/FilterList.h"
 
-#include "filter/Utf8.h"
-
-#include <sqlite3.h>
+#include "filter/FilterListFile.h"
 
 #include <algorithm>
-#include <cstring>
 #include <memory>
-#include <string_view>
 
 namespace filter {
 namespace {
-
-const char *const kMake = "CREATE TABLE filter(number INTEGER PRIMARY KEY, name TEXT NOT NULL, expression TEXT NOT NULL);"
-                          "PRAGMA user_version = 1";
-const char *const kRead = "SELECT number, name, expression FROM filter WHERE number >= 0 ORDER BY number";
-const char *const kWrite = "INSERT INTO filter VALUES(?, ?, ?)";
-const char *const kVersion = "1";
-
-struct Closing {
-    void operator()(sqlite3 *database) const { sqlite3_close(database); }
-    void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
-};
-using Database = std::unique_ptr<sqlite3, Closing>;
-using Statement = std::unique_ptr<sqlite3_stmt, Closing>;
-
-Database openInMemory() {
-    sqlite3 *made = nullptr;
-    const int code = sqlite3_open_v2(":memory:", &made, SQLITE_OPEN_READWRITE | SQLITE_OPEN_MEMORY, nullptr);
-    Database database(made);
-    return code == SQLITE_OK ? std::move(database) : Database();
-}
-
-Statement prepare(sqlite3 *database, const char *sql) {
-    sqlite3_stmt *made = nullptr;
-    sqlite3_prepare_v2(database, sql, -1, &made, nullptr);
-    return Statement(made);
-}
-
-// Fills the database with the bytes of a file.
-bool fill(sqlite3 *database, dbf::Bytes bytes) {
-    auto *copy = static_cast<unsigned char *>(sqlite3_malloc64(bytes.size()));
-    if (!copy) {
-        return false;
-    }
-    std::memcpy(copy, bytes.data(), bytes.size());
-    const auto size = static_cast<sqlite3_int64>(bytes.size());
-    return sqlite3_deserialize(database, "main", copy, size, size,
-                               SQLITE_DESERIALIZE_FREEONCLOSE | SQLITE_DESERIALIZE_READONLY) == SQLITE_OK;
-}
-
-constexpr int kMostSteps = 10'000'000; // far more than any list takes; a file made to keep SQLite busy takes more
-
-bool answers(sqlite3 *database, const char *question, std::string_view answer) {
-    const Statement statement = prepare(database, question);
-    if (!statement || sqlite3_step(statement.get()) != SQLITE_ROW) {
-        return false;
-    }
-    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(statement.get(), 0));
-    return text && text == answer;
-}
-
-bool isSound(sqlite3 *database) {
-    sqlite3_progress_handler(database, kMostSteps, [](void *) { return 1; }, nullptr);
-    sqlite3_db_config(database, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-    sqlite3_db_config(database, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    return answers(database, "PRAGMA quick_check(1)", "ok") && answers(database, "PRAGMA user_version", kVersion) &&
-           answers(database, "SELECT type FROM sqlite_schema WHERE name = 'filter'", "table");
-}
-
-std::string textAt(sqlite3_stmt *row, int column, const dbf::CodePage *page) {
-    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(row, column));
-    return text ? fromUtf8(text, page) : std::string();
-}
-
-bool readAll(sqlite3 *database, const dbf::CodePage *page, std::vector<Definition> &filters) {
-    const Statement read = prepare(database, kRead);
-    int code = read ? sqlite3_step(read.get()) : SQLITE_ERROR;
-    for (; code == SQLITE_ROW; code = sqlite3_step(read.get())) {
-        filters.push_back({sqlite3_column_int(read.get(), 0), textAt(read.get(), 1, page), textAt(read.get(), 2, page)});
-    }
-    return code == SQLITE_DONE;
-}
-
-bool writeAll(sqlite3 *database, const dbf::CodePage *page, const std::vector<Definition> &filters) {
-    if (sqlite3_exec(database, kMake, nullptr, nullptr, nullptr) != SQLITE_OK) {
-        return false;
-    }
-    const Statement write = prepare(database, kWrite);
-    return write && std::all_of(filters.begin(), filters.end(), [&](const Definition &filter) {
-        const std::string name = toUtf8(filter.name, page);
-        const std::string expression = toUtf8(filter.expression, page);
-        sqlite3_bind_int(write.get(), 1, filter.number);
-        sqlite3_bind_text64(write.get(), 2, name.data(), name.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
-        sqlite3_bind_text64(write.get(), 3, expression.data(), expression.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
-        const bool written = sqlite3_step(write.get()) == SQLITE_DONE;
-        sqlite3_reset(write.get());
-        return written;
-    });
-}
 
 dbf::Result writeFile(dbf::Bytes bytes, const std::string &path, dbf::FileStore &files) {
     std::unique_ptr<dbf::FileWriter> writer;
@@ -135,35 +43,26 @@ dbf::Result FilterList::load(const std::string &path, const dbf::CodePage *page,
     if (!files.stat(path, stamp)) {
         return dbf::Result::success();
     }
+    const auto refused = [&](const std::string &why) {
+        return dbf::Result::failure("The filters in \"" + path + "\" cannot be read: " + why + ".");
+    };
+    if (const std::string size = refusedSize(stamp.size); !size.empty()) {
+        return refused(size);
+    }
     std::unique_ptr<dbf::MappedFile> file;
     if (dbf::Result mapped = files.map(path, file, stamp); !mapped) {
         return mapped;
     }
-    const Database database = openInMemory();
-    std::vector<Definition> filters;
-    const bool read = database && !file->bytes().empty() && fill(database.get(), file->bytes()) &&
-                      isSound(database.get()) && readAll(database.get(), page, filters);
-    if (!read) {
-        return dbf::Result::failure("The filters in \"" + path + "\" cannot be read: the file is damaged or no list of filters.");
-    }
-    m_filters = std::move(filters);
-    return dbf::Result::success();
+    const dbf::Result read = readFilters(file->bytes(), page, m_filters);
+    return read ? read : refused(read.message);
 }
 
 dbf::Result FilterList::save(const std::string &path, const dbf::CodePage *page, dbf::FileStore &files) const {
-    const Database database = openInMemory();
-    if (!database || !writeAll(database.get(), page, m_filters)) {
-        return dbf::Result::failure("Low memory - cannot carry out operation!");
+    std::vector<std::uint8_t> bytes;
+    if (const dbf::Result made = writeFilters(m_filters, page, bytes); !made) {
+        return dbf::Result::failure("The filters cannot be stored in \"" + path + "\": " + made.message + ".");
     }
-    sqlite3_int64 size = 0;
-    struct Freeing {
-        void operator()(unsigned char *bytes) const { sqlite3_free(bytes); }
-    };
-    const std::unique_ptr<unsigned char, Freeing> bytes(sqlite3_serialize(database.get(), "main", &size, 0));
-    if (!bytes) {
-        return dbf::Result::failure("Low memory - cannot carry out operation!");
-    }
-    return writeFile({bytes.get(), static_cast<std::size_t>(size)}, path, files);
+    return writeFile(bytes, path, files);
 }
 
 const Definition *FilterList::find(int number) const {
@@ -188,8 +87,8 @@ void FilterList::remove(int number) {
 
 int FilterList::unusedNumber() const {
     int number = 1;
-    while (find(number)) {
-        ++number;
+    for (const Definition &filter : m_filters) {
+        number += filter.number == number ? 1 : 0;
     }
     return number;
 }

@@ -1,10 +1,16 @@
 #include "filter/RecordFilter.h"
 
+#include "filter/Ticks.h"
 #include "filter/Utf8.h"
 
 #include <algorithm>
 
 namespace filter {
+namespace {
+
+constexpr std::uint64_t kTicksForOne = 500;
+
+} // namespace
 
 std::unique_ptr<RecordFilter> RecordFilter::attach(dbf::Table &table, const std::string &expression,
                                                    const GoOn &goOn, std::string &message) {
@@ -40,12 +46,15 @@ bool RecordFilter::evaluateAll(const GoOn &goOn, std::string &message) {
     return outcome == Expression::Outcome::done;
 }
 
+// A paint asks for one record after another, and nobody can stop it.
 RecordFilter::State RecordFilter::evaluate(Row row) {
+    const std::uint64_t begun = ticks();
+    const auto inTime = [begun](Row) { return ticks() - begun < kTicksForOne; };
     State state = kFails;
     Mistake mistake;
-    const auto outcome =
-        m_expression->walk(row, row + 1, [&state](Row) { state = kPasses; }, {}, mistake);
-    return outcome == Expression::Outcome::done ? state : kUnknown;
+    const auto outcome = m_expression->walk(
+        row, row + 1, [&state](Row) { state = kPasses; }, inTime, mistake);
+    return outcome == Expression::Outcome::done ? state : mistake.isLowMemory ? kUnknown : kGivenUp;
 }
 
 bool RecordFilter::passes(Row row, bool &known) {
@@ -56,7 +65,7 @@ bool RecordFilter::passes(Row row, bool &known) {
         makeRoom(record + 1);
         setState(record, state);
     }
-    known = state != kUnknown;
+    known = state == kPasses || state == kFails;
     return state == kPasses;
 }
 

@@ -20,12 +20,12 @@ public:
     ~RecordFilter();
 
     // Does the record in this row, below the table's rowCount(), pass? `known` is false when it could not be
-    // evaluated.
+    // evaluated, or not in half a second; such a record is tried again after the next change of it.
     bool passes(Row row, bool &known);
 
 private:
     // Two bits a record, by record number.
-    enum State : std::uint64_t { kUnknown = 0, kFails = 1, kPasses = 2 };
+    enum State : std::uint64_t { kUnknown = 0, kFails = 1, kPasses = 2, kGivenUp = 3 };
     static constexpr std::uint64_t kStateBits = 2;
     static constexpr std::uint64_t kStatesPerWord = 32;
 

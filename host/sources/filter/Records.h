@@ -10,13 +10,16 @@ namespace filter {
 
 using Row = std::uint64_t; // from 0
 
+// Bytes of a value's text. What an expression does with a record is to take a time that nobody notices.
+inline constexpr std::size_t kLongestValue = 65'536;
+
 struct Value {
     enum class Kind { none, whole, real, text };
 
     Kind kind = Kind::none;
     std::int64_t whole = 0;
     double real = 0;
-    std::string text;
+    std::string text; // kLongestValue bytes at most
 };
 
 struct Field {

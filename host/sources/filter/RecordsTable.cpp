@@ -1,5 +1,7 @@
 #include "filter/RecordsTable.h"
 
+#include "filter/Ticks.h"
+
 #include <sqlite3.h>
 
 #include <algorithm>
@@ -12,7 +14,8 @@ const char *const kTableName = "records";
 
 namespace {
 
-constexpr Row kRowsPerLook = 256; // with a memo of 100 KB in each a look takes some hundredths of a second
+constexpr Row kRowsPerLook = 256;
+constexpr std::uint64_t kTicksPerLook = 20;
 
 struct Table {
     sqlite3_vtab base; // SQLite's part, first
@@ -104,13 +107,8 @@ int start(sqlite3_vtab_cursor *cursor, int, const char *, int, sqlite3_value **)
 int next(sqlite3_vtab_cursor *cursor) noexcept {
     Walk &walk = *own(cursor).walk;
     ++walk.row;
-    const Row done = walk.row - walk.first;
-    try {
-        walk.stopped = done % kRowsPerLook == 0 && walk.goOn && *walk.goOn && !(*walk.goOn)(done);
-    } catch (...) {
-        return SQLITE_NOMEM; // what an allocation throws depends on the framework
-    }
-    return walk.stopped ? SQLITE_INTERRUPT : SQLITE_OK;
+    const bool byRows = (walk.row - walk.first) % kRowsPerLook == 0;
+    return (byRows ? walk.goesOn() : walk.goesOnInTime()) ? SQLITE_OK : SQLITE_INTERRUPT;
 }
 
 int isAtEnd(sqlite3_vtab_cursor *cursor) noexcept {
@@ -120,7 +118,10 @@ int isAtEnd(sqlite3_vtab_cursor *cursor) noexcept {
 
 int column(sqlite3_vtab_cursor *cursor, sqlite3_context *context, int index) noexcept {
     Value &value = own(cursor).value;
-    const Walk &walk = *own(cursor).walk;
+    Walk &walk = *own(cursor).walk;
+    if (!walk.goesOnInTime()) {
+        return SQLITE_INTERRUPT;
+    }
     try {
         walk.records->read(walk.row, static_cast<std::size_t>(index), value);
     } catch (...) {
@@ -160,6 +161,20 @@ sqlite3_module recordsModule() {
 }
 
 } // namespace
+
+bool Walk::goesOn() noexcept {
+    try {
+        stopped = stopped || (goOn && *goOn && !(*goOn)(row - first));
+    } catch (...) {
+        failed = true; // what an allocation throws depends on the framework
+    }
+    asked = ticks();
+    return !stopped && !failed;
+}
+
+bool Walk::goesOnInTime() noexcept {
+    return ticks() - asked < kTicksPerLook ? !stopped && !failed : goesOn();
+}
 
 int addRecordsTable(sqlite3 *database, Walk &walk) {
     static const sqlite3_module module = recordsModule();

@@ -70,6 +70,15 @@ std::string fromUtf8(std::string_view text, const dbf::CodePage *page) {
     return made;
 }
 
+void cutUtf8(std::string &text, std::size_t most) {
+    if (text.size() > most) {
+        while (most > 0 && continues(text[most])) {
+            --most;
+        }
+        text.resize(most);
+    }
+}
+
 std::size_t charactersBefore(std::string_view utf8, std::size_t byte) {
     const std::string_view before = utf8.substr(0, byte);
     return before.size() - static_cast<std::size_t>(std::count_if(before.begin(), before.end(), continues));

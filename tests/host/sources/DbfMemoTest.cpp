@@ -78,6 +78,37 @@ TEST(DbfMemo, CutsLengthThatRunsPastTheEnd) {
     EXPECT_EQ(openBytes(files, memoTable(0xF5, "         1"))->cellText(0, 0), "");
 }
 
+TEST(DbfMemo, HandsOutTheBeginningOfALongText) {
+    MemoryFiles files;
+    const std::string text = std::string(65'535, 'a') + "bc" + std::string(100'000, 'd');
+    const std::string beginning = text.substr(0, 65'536);
+    const std::string length = raw("\x00\x02\x86\xA1");
+    std::string head = padded("", 512);
+    head.replace(6, 2, raw("\x02\x00"));
+    files.files["t.dbt"] = padded("", 512) + text + "\x1A";
+    EXPECT_EQ(openBytes(files, memoTable(0x83, "         1"))->cellText(0, 0), beginning);
+    files.files["t.dbt"] = padded("", 512) + raw("\xFF\xFF\x08\x00") + std::string(length.rbegin(), length.rend()) + text;
+    EXPECT_EQ(openBytes(files, memoTable(0x8B, "         1"))->cellText(0, 0), beginning);
+    files.files.erase("t.dbt");
+    files.files["t.fpt"] = head + raw("\0\0\0\x01") + length + text;
+    EXPECT_EQ(openBytes(files, memoTable(0xF5, "         1"))->cellText(0, 0), beginning);
+}
+
+TEST(DbfMemo, ALongTextIsNeverWrittenBackCut) {
+    MemoryFiles files;
+    const std::string memo = padded("", 512) + std::string(100'000, 'a') + "\x1A";
+    files.files["t.dbt"] = memo;
+    const auto table = openBytes(files, memoTable(0x83, "         1"));
+    const std::string shown = table->cellText(0, 0);
+    EXPECT_LT(shown.size(), 100'000u);
+    EXPECT_EQ(table->setCellText(0, 0, shown + "b").message, "Field NOTE cannot be changed here");
+    EXPECT_FALSE(table->canUndo());
+    ASSERT_TRUE(table->save());
+    EXPECT_EQ(files.files["t.dbt"], memo);
+    ASSERT_TRUE(table->saveAs("other.dbf"));
+    EXPECT_EQ(files.files["other.dbt"], memo);
+}
+
 TEST(DbfMemo, OpensTableWithoutItsMemoFile) {
     MemoryFiles files;
     const auto table = openBytes(files, memoTable(0x83, "         1"));

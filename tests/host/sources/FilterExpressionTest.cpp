@@ -3,6 +3,9 @@
 #include "filter/DbfRecords.h"
 #include "filter/Expression.h"
 #include "filter/Utf8.h"
+#include "SlowFilter.h"
+
+#include <chrono>
 
 using namespace dbftest;
 using filter::Expression;
@@ -82,7 +85,7 @@ TEST(FilterExpression, MistakesAreNamedWhereTheyAre) {
     EXPECT_EQ(mistakeIn("uppper(NAME) = 'A'"), "There is no function \"uppper\". @0");
     EXPECT_EQ(mistakeIn("upper(NAME, 2)"), "Wrong number of arguments to function upper(). @0");
     EXPECT_EQ(mistakeIn("PAY > 1 \\ 2"), "\"\\\" cannot be read. @8");
-    EXPECT_EQ(mistakeIn("count(*) > 1").substr(0, 19), "Misuse of aggregate");
+    EXPECT_EQ(mistakeIn("max(PAY) > 1").substr(0, 19), "Misuse of aggregate");
     EXPECT_EQ(mistakeIn(""), "The expression is empty.");
     EXPECT_EQ(mistakeIn(" \n"), "The expression is empty.");
     EXPECT_EQ(mistakeIn("PAY > ?"), "\"?\" stands for no value. @6");
@@ -112,14 +115,17 @@ TEST(FilterExpression, TheTableItselfIsNoSetOfValues) {
     EXPECT_EQ(passing(*table, "A in ('b', 'c')"), "1 ");
 }
 
-TEST(FilterExpression, AMemoMayBeLong) {
+TEST(FilterExpression, TheBeginningOfALongMemoIsLookedAt) {
     MemoryFiles files;
     std::string memo(512, '\0');
     memo[6] = 0x02; // blocks of 512 bytes
     memo[7] = 0x00;
-    files.files["t.fpt"] = memo + raw("\0\0\0\x01\0\x1E\x84\x80") + std::string(1'999'999, 'a') + "b";
-    const auto table = openBytes(files, header(0xF5, 1, 11, descriptor("NOTE", 'M', 10)) + "          1");
-    EXPECT_EQ(passing(*table, "NOTE like 'a%b' and length(NOTE) = 2000000"), "0 ");
+    files.files["t.fpt"] = memo + raw("\0\0\0\x01\0\x1E\x84\x80") + std::string(65'535, 'a') + "b" + std::string(1'934'464, 'c');
+    const std::string bytes = header(0xF5, 1, 11, descriptor("NOTE", 'M', 10), 3) + "          1";
+    EXPECT_EQ(passing(*openBytes(files, bytes), "NOTE like 'a%b' and length(NOTE) = 65536"), "0 ");
+    files.files["t.fpt"] = memo + raw("\0\0\0\x01\0\x1E\x84\x80") + "ab" + std::string(1'999'998, '\x80');
+    EXPECT_EQ(passing(*openBytes(files, bytes), "length(NOTE) = 21846 and octet_length(NOTE) = 65534"), "0 ")
+        << "three bytes each, and no half character";
 }
 
 TEST(FilterExpression, AFieldMayBeCalledLikeARecordsPlaceOrLikeAKeyword) {
@@ -148,8 +154,101 @@ TEST(FilterExpression, DepthAndLengthHaveBounds) {
         deep += "not ";
     }
     EXPECT_EQ(mistakeIn(deep + "1"), "Expression tree is too large (maximum depth 200).");
-    EXPECT_EQ(passing("length(zeroblob(100000000)) > 1"), "String or blob too big.");
+    EXPECT_EQ(mistakeIn("NAME = '" + std::string(99'991, 'a') + "'"), "none");
+    EXPECT_EQ(mistakeIn("NAME = '" + std::string(99'992, 'a') + "'"),
+              "The expression has more than 100000 bytes.");
+    const std::string text = "'" + std::string(33'000, 'a') + "'";
+    EXPECT_EQ(passing("length(" + text + " || NAME) > 1"), "0 1 2 ");
+    EXPECT_EQ(passing("NAME like " + text), "LIKE or GLOB pattern too complex.");
     EXPECT_EQ(passing("abs(-9223372036854775807 - 1) > 1"), "Integer overflow.");
+}
+
+TEST(FilterExpression, FunctionsThatLookAtARecordAreThere) {
+    for (const char *expression : {"abs(PAY) >= 0",
+                                   "char(65) = 'A'",
+                                   "coalesce(PAY, 0) = 1200.5",
+                                   "concat(NAME, 'x') = 'Annax'",
+                                   "concat_ws('-', NAME, 1) = 'Anna-1'",
+                                   "current_date > '2000-01-01'",
+                                   "date(BORN) = '1972-02-29'",
+                                   "NAME glob 'A*'",
+                                   "ifnull(NAME, '') <> ''",
+                                   "iif(PAY > 0, 1, 0)",
+                                   "instr(NAME, 'nn') = 2",
+                                   "julianday(BORN) > 0",
+                                   "length(NAME) = 4",
+                                   "NAME like 'a%'",
+                                   "likely(1)",
+                                   "lower(NAME) = 'anna'",
+                                   "ltrim(NAME, 'A') = 'nna'",
+                                   "max(PAY, 1) > 1",
+                                   "min(PAY, 1) = 1",
+                                   "nullif(NAME, '') is not null",
+                                   "octet_length(NAME) = 4",
+                                   "random() is not null",
+                                   "replace(NAME, 'n', 'm') = 'Amma'",
+                                   "round(PAY) > 1",
+                                   "rtrim(NAME, 'a') = 'Ann'",
+                                   "sign(PAY) = 1",
+                                   "strftime('%Y', BORN) = '1972'",
+                                   "substr(NAME, 2, 1) = 'n'",
+                                   "substring(NAME, 1, 1) = 'A'",
+                                   "time('12:00') = '12:00:00'",
+                                   "trim(NAME, 'Aa') = 'nn'",
+                                   "typeof(PAY) = 'real'",
+                                   "unicode(NAME) = 65",
+                                   "unixepoch(BORN) > 0",
+                                   "unlikely(1)",
+                                   "upper(NAME) = 'ANNA'"}) {
+        EXPECT_EQ(passing("NAME = 'Anna' and " + std::string(expression)), "0 ") << expression;
+    }
+}
+
+TEST(FilterExpression, FunctionsThatMakeLargeValuesOrReachElsewhereAreRefusedByName) {
+    const auto refused = [](const std::string &name) {
+        return "The function \"" + name + "\" cannot be used in a filter.";
+    };
+    for (const std::string name : {"zeroblob", "randomblob", "printf", "format", "hex", "unhex", "quote",
+                                   "count", "sum", "group_concat", "json_array", "json_valid", "unistr",
+                                   "sqlite_compileoption_used", "sqlite_compileoption_get"}) {
+        EXPECT_EQ(passing("length(" + name + "(1)) > 1"), refused(name));
+    }
+    for (const std::string name :
+         {"sqlite_version", "sqlite_source_id", "last_insert_rowid", "changes", "total_changes"}) {
+        EXPECT_EQ(mistakeIn(name + "() = 1"), refused(name) + " @0");
+    }
+    EXPECT_EQ(passing("ZeroBlob(9) = 1"), refused("ZeroBlob"));
+    EXPECT_EQ(passing("NAME -> 'a'"), refused("->"));
+    EXPECT_EQ(passing("load_extension('a') = 1"), "There is no function \"load_extension\".");
+}
+
+TEST(FilterExpression, ReplacingAndTrimmingDoAsSqliteDoes) {
+    EXPECT_EQ(passing("replace(NAME, 'n', '') = 'Aa' and replace(NAME, '', 'x') = NAME and replace('aaa', "
+                      "'aa', 'b') = 'ba'"),
+              "0 ");
+    EXPECT_EQ(passing("replace(null, 'a', 'b') is null and replace('a', null, 'b') is null and replace('a', "
+                      "'a', null) is null"),
+              "0 1 2 ");
+    EXPECT_EQ(passing("replace('a\xC3\xBC', '\xC3\xBC', 'ue') = 'aue' and replace(121, 1, 3) = '323'"),
+              "0 1 2 ");
+    EXPECT_EQ(passing("trim('xaxbx', 'x') = 'axb' and ltrim('xax', 'x') = 'ax' and rtrim('xax', 'x') = 'xa'"),
+              "0 1 2 ");
+    EXPECT_EQ(passing("trim('\xC3\xBC\xE2\x82\xAC"
+                      "a\xC3\xBC', '\xE2\x82\xAC\xC3\xBC') = 'a' and trim('aa', 'a') = ''"),
+              "0 1 2 ");
+    EXPECT_EQ(passing("trim(null, 'a') is null and trim('a', null) is null and trim('ab', '') = 'ab' and "
+                      "trim(' a ') = 'a'"),
+              "0 1 2 ");
+}
+
+TEST(FilterExpression, ATextThatReplacingMakesTooLongIsRefusedByTheFunctionsName) {
+    const std::string many = "'" + std::string(1000, 'a') + "'";
+    EXPECT_EQ(passing("length(replace(" + many + ", 'a', '" + std::string(65, 'b') + "')) = 65000"),
+              "0 1 2 ");
+    EXPECT_EQ(passing("length(replace(" + many + ", 'a', '" + std::string(66, 'b') + "')) > 1"),
+              "The function \"replace\" makes a text that is too long.");
+    const std::string long_ = "replace(" + many + ", 'a', '" + std::string(65, 'b') + "')";
+    EXPECT_EQ(passing("length(" + long_ + "||" + long_ + "||" + long_ + ") > 1"), "String or blob too big.");
 }
 
 TEST(FilterExpression, AWalkCanBeStopped) {
@@ -170,6 +269,38 @@ TEST(FilterExpression, AWalkCanBeStopped) {
     EXPECT_EQ(mistake.text, "");
     EXPECT_EQ(walk([](filter::Row) { return true; }), Expression::Outcome::done);
     EXPECT_EQ(passed, 10000u);
+}
+
+TEST(FilterExpression, AWalkCanBeStoppedWithinARecord) {
+    MemoryFiles files;
+    const auto table = openBytes(files, slowRecord(files));
+    const filter::DbfRecords records(*table);
+    Mistake mistake;
+    const auto expression = Expression::compile(slowExpression(), records, mistake);
+    ASSERT_TRUE(expression) << mistake.text;
+    const auto begun = std::chrono::steady_clock::now();
+    filter::Row asked = 99;
+    const auto stop = [&](filter::Row done) {
+        asked = done;
+        return false;
+    };
+    EXPECT_EQ(expression->walk(
+                  0, 1, [](filter::Row) {}, stop, mistake),
+              Expression::Outcome::stopped);
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(2))
+        << "all of it takes some twenty";
+    EXPECT_EQ(asked, 0u);
+    EXPECT_EQ(mistake.text, "");
+}
+
+TEST(FilterExpression, AFewLongTextsAreTrimmedInNoTime) {
+    MemoryFiles files;
+    const auto table = openBytes(files, slowRecord(files));
+    const auto begun = std::chrono::steady_clock::now();
+    EXPECT_EQ(passing(*table, "trim(NOTE, replace(NOTE, 'a', 'b') || 'a') = '' and rtrim(NOTE, replace(NOTE, "
+                              "'a', 'b')) = NOTE"),
+              "0 ");
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(1));
 }
 
 TEST(FilterExpression, WhatAWalksCallerThrowsDoesNotGoThroughSqlite) {

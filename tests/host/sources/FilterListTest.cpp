@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
+#include <chrono>
+
 using filter::FilterList;
 
 namespace {
@@ -50,6 +52,23 @@ std::string bytesOf(const std::string &sql) {
     return text;
 }
 
+const std::string kTable = "CREATE TABLE filter(number INTEGER PRIMARY KEY, name TEXT NOT NULL, expression TEXT NOT NULL)";
+
+std::string refusal(const std::string &why) {
+    return "The filters in \"staff.@filters\" cannot be read: " + why + ".";
+}
+
+std::string storedFrom(const std::string &sql) {
+    MemoryFiles files;
+    files.files[kPath] = bytesOf(sql);
+    return stored(files);
+}
+
+// The list that holds one filter of these values.
+std::string storedWith(const std::string &values) {
+    return storedFrom(kTable + ";PRAGMA user_version = 1;INSERT INTO filter VALUES(" + values + ")");
+}
+
 } // namespace
 
 TEST(FilterList, StandsBesideTheTable) {
@@ -85,16 +104,124 @@ TEST(FilterList, ComesBackFromItsFile) {
 
 TEST(FilterList, AFileThatIsNoListIsRefusedByName) {
     MemoryFiles files;
-    const std::string refused =
-        "The filters in \"staff.@filters\" cannot be read: the file is damaged or no list of filters.";
-    for (const std::string &bytes :
-         {std::string(), std::string("hello"), std::string(4096, '\0'), bytesOf("CREATE TABLE other(a)"),
-          bytesOf("CREATE TABLE filter(number, name, expression)"), // of no version
-          bytesOf("CREATE VIEW filter AS WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n) "
-                  "SELECT x AS number, '' AS name, '' AS expression FROM n; PRAGMA user_version = 1")}) {
+    for (const std::string &bytes : {std::string(), std::string("hello"), std::string(4096, '\0')}) {
         files.files[kPath] = bytes;
-        EXPECT_EQ(stored(files), refused) << bytes.size();
+        EXPECT_EQ(stored(files), refusal("the file is damaged or no list of filters")) << bytes.size();
     }
+}
+
+TEST(FilterList, AFileThatHoldsAnythingElseIsRefused) {
+    for (const std::string &sql :
+         {std::string("CREATE TABLE other(a)"), std::string("CREATE TABLE filter(number, name, expression)"),
+          std::string("CREATE TABLE filter(number INTEGER PRIMARY KEY, name TEXT NOT NULL, "
+                      "expression TEXT AS (upper(name)) NOT NULL); INSERT INTO filter(number, name) VALUES(1, 'a')"),
+          std::string("CREATE TABLE filter(number INTEGER PRIMARY KEY, name TEXT NOT NULL, expression TEXT NOT NULL "
+                      "CHECK(length(expression) > 0)); INSERT INTO filter VALUES(1, 'a', 'b')"),
+          std::string("CREATE VIEW filter AS WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n) "
+                      "SELECT x AS number, '' AS name, '' AS expression FROM n"),
+          kTable + ";CREATE TABLE more(a)", kTable + ";CREATE VIEW more AS SELECT 1",
+          kTable + ";CREATE INDEX more ON filter(name)",
+          kTable + ";CREATE TRIGGER more AFTER INSERT ON filter BEGIN DELETE FROM filter; END"}) {
+        EXPECT_EQ(storedFrom(sql + ";PRAGMA user_version = 1"),
+                  refusal("the file holds something else than one table of filters"))
+            << sql;
+    }
+}
+
+TEST(FilterList, AListOfAnotherVersionIsRefused) {
+    EXPECT_EQ(storedFrom(kTable), refusal("the list is of another version"));
+    EXPECT_EQ(storedFrom(kTable + ";PRAGMA user_version = 2"), refusal("the list is of another version"));
+    EXPECT_EQ(storedWith("1, 'a', 'b'"), "1 a: b\n");
+}
+
+TEST(FilterList, NumbersThatNoFilterCanHaveAreRefused) {
+    const std::string refused = refusal("a filter's number is not one of 0 to 2147483647");
+    EXPECT_EQ(storedWith("2147483647, 'a', 'b'"), "2147483647 a: b\n");
+    EXPECT_EQ(storedWith("2147483648, 'a', 'b'"), refused);
+    EXPECT_EQ(storedWith("4294967297, 'a', 'b'"), refused) << "it is not taken for 1";
+    EXPECT_EQ(storedWith("-1, 'a', 'b'"), refused);
+}
+
+TEST(FilterList, WhatIsNoTextIsRefused) {
+    EXPECT_EQ(storedWith("3, x'41', 'b'"), refusal("the name of filter 3 is no text"));
+    EXPECT_EQ(storedWith("3, 'a', x'41'"), refusal("the expression of filter 3 is no text"));
+    EXPECT_EQ(storedWith("3, 'a' || char(0) || 'c', 'b'"), refusal("the name of filter 3 is no text"));
+    EXPECT_EQ(storedWith("3, 'a', 'b' || char(0)"), refusal("the expression of filter 3 is no text"));
+    EXPECT_EQ(storedWith("3, 17, 4.5"), "3 17: 4.5\n") << "the column makes texts of numbers";
+}
+
+TEST(FilterList, NamesExpressionsAndListsHaveBounds) {
+    EXPECT_EQ(storedWith("1, '', replace(hex(zeroblob(50000)), '0', 'a')").size(), 100'005u);
+    for (const char *length : {"50001", "600000", "3000000"}) {
+        const std::string text = "replace(hex(zeroblob(" + std::string(length) + ")), '0', 'a')";
+        EXPECT_EQ(storedWith("1, '', " + text), refusal("the expression of filter 1 has more than 100000 bytes")) << length;
+        EXPECT_EQ(storedWith("1, " + text + ", ''"), refusal("the name of filter 1 has more than 100000 bytes")) << length;
+    }
+    const std::string many = kTable + ";PRAGMA user_version = 1;WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 "
+                             "FROM n) INSERT INTO filter SELECT x, '', '1' FROM n LIMIT ";
+    EXPECT_EQ(storedFrom(many + "5000").substr(0, 10), "1 : 1\n2 : ");
+    EXPECT_EQ(storedFrom(many + "5001"), refusal("it holds more than 5000 filters"));
+    EXPECT_EQ(storedFrom(kTable + ";PRAGMA user_version = 1;CREATE TABLE t(a);INSERT INTO t VALUES(zeroblob(17000000));"
+                                  "DROP TABLE t"),
+              refusal("the file is larger than 16 MB"));
+}
+
+TEST(FilterList, FiltersOutOfOrderAreRefused) {
+    MemoryFiles files;
+    files.files[kPath] = bytesOf(kTable + ";PRAGMA user_version = 1;INSERT INTO filter VALUES(1, 'a', 'b'), (2, 'c', 'd')");
+    std::string &bytes = files.files[kPath];
+    std::swap(bytes[4096 + 8], bytes[4096 + 10]); // where the two rows begin in their page
+    std::swap(bytes[4096 + 9], bytes[4096 + 11]);
+    EXPECT_EQ(stored(files), refusal("the file is damaged or no list of filters"));
+}
+
+TEST(FilterList, NothingOfARefusedListIsUsed) {
+    MemoryFiles files;
+    FilterList list = two();
+    files.files[kPath] = bytesOf(kTable + ";PRAGMA user_version = 1;INSERT INTO filter VALUES(1, 'a', 'b'), (2, 'c', x'00')");
+    const std::string before = files.files[kPath];
+    EXPECT_FALSE(list.load(kPath, western(), files));
+    EXPECT_EQ(shown(list), "");
+    EXPECT_EQ(files.files[kPath], before);
+}
+
+TEST(FilterList, AListThatCouldNotBeReadIsNotWritten) {
+    MemoryFiles files;
+    ASSERT_TRUE(two().save(kPath, western(), files));
+    const auto refused = [&](const filter::Definition &definition) {
+        FilterList list;
+        list.put(definition);
+        const dbf::Result saved = list.save(kPath, western(), files);
+        EXPECT_EQ(stored(files), shown(two()));
+        return saved.message;
+    };
+    const std::string cannot = "The filters cannot be stored in \"staff.@filters\": ";
+    EXPECT_EQ(refused({7, "", std::string(100'001, '1')}), cannot + "the expression of filter 7 has more than 100000 bytes.");
+    EXPECT_EQ(refused({7, std::string(50'000, '\x80'), ""}), cannot + "the name of filter 7 has more than 100000 bytes.")
+        << "three bytes each";
+    EXPECT_EQ(refused({-7, "", ""}), cannot + "a filter's number is not one of 0 to 2147483647.");
+    EXPECT_EQ(refused({7, "", std::string(1, '\0')}), cannot + "the expression of filter 7 is no text.");
+    FilterList many, large;
+    for (int number = 0; number <= 5000; ++number) {
+        many.put({number, "", "1"});
+    }
+    for (int number = 0; number < 170; ++number) {
+        large.put({number, "", std::string(100'000, '1')});
+    }
+    EXPECT_EQ(many.save(kPath, western(), files).message, cannot + "it holds more than 5000 filters.");
+    EXPECT_EQ(large.save(kPath, western(), files).message, cannot + "the file is larger than 16 MB.");
+    EXPECT_EQ(stored(files), shown(two()));
+}
+
+TEST(FilterList, AnUnusedNumberIsFoundInOneWalk) {
+    FilterList list;
+    EXPECT_EQ(list.unusedNumber(), 1);
+    for (int number = 0; number < 200'000; ++number) {
+        list.put({number == 150'000 ? 0 : number, "", ""});
+    }
+    const auto begun = std::chrono::steady_clock::now();
+    EXPECT_EQ(list.unusedNumber(), 150'000);
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(1));
 }
 
 TEST(FilterList, DamageAnywhereIsRefusedOrRead) {

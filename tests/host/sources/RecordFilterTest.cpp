@@ -1,8 +1,10 @@
 // Which records pass, kept up to date while the table changes.
+#include "filter/RecordFilter.h"
 #include "AllocationFailure.h"
 #include "DbfBytes.h"
-#include "filter/RecordFilter.h"
+#include "SlowFilter.h"
 
+#include <chrono>
 #include <random>
 
 using namespace dbftest;
@@ -110,12 +112,30 @@ TEST(RecordFilter, FollowsATableThatBeginsWithoutRecords) {
 TEST(RecordFilter, ARecordThatCannotBeEvaluatedIsUnknown) {
     MemoryFiles files;
     const auto wide = openBytes(files, header(0x03, 2, 11, descriptor("N", 'N', 10)) + "          1" + "          2");
-    const auto lengths = attach(*wide, "length(zeroblob(N)) > 1");
-    EXPECT_EQ(passing(*lengths, *wide), "-+");
-    ASSERT_TRUE(wide->setCellText(0, 0, "100000000"));
-    EXPECT_EQ(passing(*lengths, *wide), "?+");
+    const auto overflows = attach(*wide, "abs(-9223372036854775798 - N) > 9223372036854775799");
+    EXPECT_EQ(passing(*overflows, *wide), "-+");
+    ASSERT_TRUE(wide->setCellText(0, 0, "10"));
+    EXPECT_EQ(passing(*overflows, *wide), "?+");
+    EXPECT_EQ(passing(*overflows, *wide), "?+");
     ASSERT_TRUE(wide->setCellText(0, 0, "3"));
-    EXPECT_EQ(passing(*lengths, *wide), "++");
+    EXPECT_EQ(passing(*overflows, *wide), "++");
+}
+
+TEST(RecordFilter, ARecordThatTakesLongIsGivenUpOnce) {
+    MemoryFiles files;
+    const auto table = openBytes(files, slowRecord(files));
+    const auto filter = attach(*table, "N = 1 and (" + slowExpression() + ")");
+    EXPECT_EQ(passing(*filter, *table), "-");
+    ASSERT_TRUE(table->setCellText(0, 1, "1"));
+    auto begun = std::chrono::steady_clock::now();
+    EXPECT_EQ(passing(*filter, *table), "?");
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(2));
+    begun = std::chrono::steady_clock::now();
+    EXPECT_EQ(passing(*filter, *table), "?");
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::milliseconds(50))
+        << "each paint asks again";
+    ASSERT_TRUE(table->setCellText(0, 1, "2"));
+    EXPECT_EQ(passing(*filter, *table), "-");
 }
 
 TEST(RecordFilter, AttachingIsAllOrNothingWhenMemoryFails) {
