@@ -2,6 +2,8 @@
 #include "dataeditor/DataEditorDlgs.h"
 #include "dataeditor/OrvaneEditor.h"
 
+#include "editorcore/TableWatch.h"
+
 #include <algorithm>
 
 namespace {
@@ -117,10 +119,11 @@ void COrvaneEditor::OnLockColumns() {
         SettleEdit(); // before the dialog takes the focus
         CResourceScope resources;
         CLockColumns dialog(m_nLockedCols, GetNumberCols(), this);
+        const CTableWatch watch(this);
         const INT_PTR answer = dialog.DoModal();
-        if (answer == -1)
+        if (answer == -1 && GetSafeHwnd() != nullptr) // else it went with the editor's window
             AfxThrowMemoryException(); // no window for the question
-        if (answer == IDOK && m_pLayout != nullptr)
+        if (answer == IDOK && m_pLayout != nullptr && watch.SameTable())
             FreezeColumns(std::clamp(dialog.m_nLockedCols, 0, std::max(GetNumberCols(), 0)));
     });
 }

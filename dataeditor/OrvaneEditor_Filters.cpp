@@ -215,10 +215,11 @@ void COrvaneEditor::OnGotoRecord() {
         SettleEdit(); // before the dialog takes the focus
         CResourceScope resources;
         CInsertRecordsDlg dialog("Goto Record", "Goto Record", nullptr);
+        const CTableWatch watch(this);
         const INT_PTR answer = dialog.DoModal();
-        if (answer == -1)
+        if (answer == -1 && GetSafeHwnd() != nullptr)
             AfxThrowMemoryException(); // no window for the question
-        if (answer == IDOK)
+        if (answer == IDOK && watch.SameTable())
             GotoRecord(dialog.m_nRecords);
     });
 }

@@ -63,6 +63,7 @@ bool COrvaneEditor::LoadData(const char *path, const char *table, int filter, in
 
 void COrvaneEditor::LockLoadedColumns() {
     m_nLockedCols = std::clamp(m_pLayout->GetFrozenCols(), 0, GetNumberCols());
+    m_pLayout->SetFrozenCols(m_nLockedCols); // the heading's width, which is kept beside it, is for as many
     LockColumns(m_nLockedCols);
 }
 
@@ -84,7 +85,8 @@ void COrvaneEditor::OnSaveAs() {
     CString name(m_strFilePath);
     const bool attached = IsFilterAttached();
     bool useFiltered = IsUsingFilteredRecords();
-    if (!ms_pAppInterface->PromptSaveAs(name, &useFiltered, attached) ||
+    const CTableWatch watch(this);
+    if (!ms_pAppInterface->PromptSaveAs(name, &useFiltered, attached) || !watch.SameTable() ||
         !CEditorCore::OnSaveAs(name, attached && useFiltered, m_nFilter))
         return;
     SetUseFilteredRecords(useFiltered);

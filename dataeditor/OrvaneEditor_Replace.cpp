@@ -81,7 +81,10 @@ bool COrvaneEditor::AskToReplace(int col, long row, const std::string &text, con
     case CYesNoCancelAllDlg::kYes: *answer = kYes; break;
     case CYesNoCancelAllDlg::kNo: *answer = kNo; break;
     case CYesNoCancelAllDlg::kAll: *answer = kAll; break;
-    case -1: AfxThrowMemoryException(); // no window for the question
+    case -1:
+        if (GetSafeHwnd() != nullptr)
+            AfxThrowMemoryException(); // no window for the question
+        [[fallthrough]]; // the editor's is gone as well
     default: *answer = kCancel;
     }
     *replaced = *answer == kYes || *answer == kAll;
@@ -89,7 +92,7 @@ bool COrvaneEditor::AskToReplace(int col, long row, const std::string &text, con
     if (!*replaced)
         return true;
     SettleEdit();
-    if (!watch.SameColumns()) {
+    if (!watch.Holds()) { // the same text may stand in another record
         *replaced = false;
         return true;
     }

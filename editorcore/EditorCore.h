@@ -20,6 +20,7 @@
 class COrvaneValidatingCellType;
 class CTransactionScope;
 class CView;
+class CWaitCursorScope;
 
 // Edit modes.
 constexpr int kEditNormal = 0;
@@ -380,7 +381,7 @@ private:
     void DeleteChosenRows(long firstRow, long count, bool toClipboard);
     // False when there is none, which was told.
     bool TakeClipboardText(CString *text);
-    bool SaveRowsToClipboard(long firstRow, long lastRow);
+    bool SaveRowsToClipboard(long firstRow, long lastRow, CWaitCursorScope *waiting);
     bool AskForRecords(const char *title, const char *prompt, long *count);
     void ShowRowsOfSource();
     long EstimateSelectedText();
@@ -397,7 +398,7 @@ private:
     void AutoScrollRows(int y, int height);
     bool AutoScrollCols(int x, int width);
     void SelectToCurrent();
-    void BuildDefaultLayout(bool setTranslations);
+    void BuildDefaultLayout();
     void SetGridInitColWidths();
     int HeadingMinimumWidth(int col, int maxCharWidth);
     void VarifyEdit(CWnd *edit, int col, long row);

@@ -70,17 +70,17 @@ void CEditorCore::SetGridLayout() {
     NoteChange(&TableState::columns);
     CPaintingScope quiet(this);
     if (!Serialize(false)) {
-        BuildDefaultLayout(true);
+        BuildDefaultLayout();
     } else if (!m_pLayout->ApplyToGrid(source)) {
         const CWaitCursorScope waiting(ms_pAppInterface);
-        BuildDefaultLayout(false);
+        BuildDefaultLayout();
     }
     m_bLayoutValid = true;
     if (source->GetNumRows() == 0)
         SetNumberRows(0, 1);
 }
 
-void CEditorCore::BuildDefaultLayout(bool setTranslations) {
+void CEditorCore::BuildDefaultLayout() {
     CUGDataSource *source = GetCurrentDataSrc(false);
     {
         CPaintingScope quiet(this);
@@ -89,10 +89,9 @@ void CEditorCore::BuildDefaultLayout(bool setTranslations) {
         CUGCtrl::SetNumberRows(std::max(RowsOfSource(source), 0L), 1);
         SetGridInitColWidths();
         SetRowHeight(0, ScaledRowHeight(kDefaultRowHeightPx));
-        if (setTranslations) {
-            for (int col = 0; col < GetNumberCols(); ++col)
-                SetColTranslation(col, col);
-        }
+        // Also where a layout was read that does not fit: the columns that were there keep theirs.
+        for (int col = 0; col < GetNumberCols(); ++col)
+            SetColTranslation(col, col);
     }
     m_pLayout->CaptureFromGrid();
 }

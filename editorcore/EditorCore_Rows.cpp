@@ -77,10 +77,11 @@ void CEditorCore::OnInsertRows() {
     ChangeRows([&] {
         SettleEdit(); // before the dialog takes the focus: verifying has a question of its own
         long count;
+        const long row = GetCurrentRow();
         const CTableWatch watch(this);
         if (!AskForRecords("Insert Records", "Number of records: ", &count) || !watch.Holds())
             return;
-        ExecInsertRows(GetCurrentRow(), count, true);
+        ExecInsertRows(row, count, true);
         NotifyEdited();
         PostCommandsChanged();
     });
@@ -159,24 +160,24 @@ void CEditorCore::OnDeleteRows(bool toClipboard) {
 void CEditorCore::DeleteChosenRows(long firstRow, long count, bool toClipboard) {
     const long last = firstRow + count - 1;
     CWaitCursorScope waiting(ms_pAppInterface, static_cast<long long>(GetNumberCols()) * count > kWaitCursorCells);
-    if (toClipboard && !SaveRowsToClipboard(firstRow, last)) {
-        waiting.LeaveRaised();
+    if (toClipboard && !SaveRowsToClipboard(firstRow, last, &waiting))
         return;
-    }
     NotifyEdited();
     ExecDeleteRows(firstRow, last);
     waiting.End();
     PostCommandsChanged();
 }
 
-bool CEditorCore::SaveRowsToClipboard(long firstRow, long lastRow) {
+bool CEditorCore::SaveRowsToClipboard(long firstRow, long lastRow, CWaitCursorScope *waiting) {
     ClearSelections();
     if (SelectRange(0, firstRow, GetNumberCols() - 1, lastRow) != GRID_SUCCESS) {
+        waiting->LeaveRaised();
         AfxMessageBox("Could not save data to be deleted!", MB_ICONHAND, 0);
         return false;
     }
     CString text;
-    CreateSelectedString(text, 0, false);
+    if (!CreateSelectedString(text, 0, false) && GetSafeHwnd() != nullptr)
+        return false; // stopped: what is not on the clipboard is not deleted
     CopyToClipBoard(&text);
     return true;
 }

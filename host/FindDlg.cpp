@@ -173,7 +173,8 @@ bool CFindDlg::CanBeSearched() {
 
 void CFindDlg::OnOK() {
     CWnd *editor = m_target();
-    if (m_running || editor == nullptr || GetDlgItem(IDC_FIND_TEXT)->GetWindowTextLength() == 0)
+    // Beside another question, which disables the frame, the table is not to be touched.
+    if (m_running || editor == nullptr || !AfxGetMainWnd()->IsWindowEnabled() || GetDlgItem(IDC_FIND_TEXT)->GetWindowTextLength() == 0)
         return;
     if (!CanBeSearched())
         return;

@@ -26,7 +26,9 @@ public:
     // "cur=(c,r) top"
     std::string At() { return std::to_string(GetCurrentCol()) + "," + std::to_string(GetCurrentRow()); }
     int OnCanMove(int, long, int, long) override { return m_canMove; }
+    int OnMenuStart(int, long, int) override { return m_canMenu; }
     bool m_canMove = true;
+    bool m_canMenu = false;
     void OnLClicked(int col, long row, int updn, RECT *rect, POINT *point, int processed) override {
         ++m_clicks;
         COrvaneEditor::OnLClicked(col, row, updn, rect, point, processed);

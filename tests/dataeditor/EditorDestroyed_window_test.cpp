@@ -98,10 +98,23 @@ public:
     }
 };
 
+// What is dragged ends the frame, and then itself.
+class EndingSource : public COleDropSource {
+public:
+    explicit EndingSource(std::function<void()> end) : m_end(std::move(end)) {}
+    SCODE QueryContinueDrag(BOOL, DWORD) override {
+        m_end();
+        return DRAGDROP_S_CANCEL;
+    }
+
+private:
+    std::function<void()> m_end;
+};
+
 class EditorDestroyedTest : public DataEditorTest {
 protected:
     using Step = std::function<void(TestDataEditor &)>;
-    enum class By { box, dialog, host, source, messages };
+    enum class By { box, dialog, host, source, messages, drag };
 
     EditorDestroyedTest() {
         CEditorCore::Initialise(&m_pumping);
@@ -118,6 +131,7 @@ protected:
     EditorFrame *MakeFrame() {
         auto *frame = new EditorFrame(&m_log);
         frame->CreateEx(0, AfxRegisterWndClass(0), "doomed", WS_POPUP | WS_VISIBLE, CRect(0, 0, 500, 300), nullptr, 0);
+        frame->SetForegroundWindow();
         frame->m_editor.CreateGrid(WS_VISIBLE, CRect(0, 0, 500, 300), frame, 300);
         return frame;
     }
@@ -201,7 +215,7 @@ protected:
             const SpoiledMemory spoiled;
             ::SendMessageA(window, kWork, 0, 0);
         }
-        EXPECT_FALSE(::IsWindow(window)) << "nothing pumped";
+        EXPECT_FALSE(::IsWindow(window)) << "nothing pumped: " << TestApp().TakeBoxes();
         EXPECT_TRUE(returned && alive);
         EXPECT_EQ(said, m_boxes.substr(0, said.size()));
         EXPECT_EQ("", TestApp().TakeBoxes()) << "said to nobody";
@@ -484,14 +498,14 @@ TEST_F(EditorDestroyedTest, InWhatIsSaidOfThePaste) {
     });
     Dies("AbortOperation", By::host, "", [](auto &editor) { editor.OnCopy(); },
          [](auto &editor) { editor.SelectRange(0, 0, 1, 3); });
+    Put("a\r\nb\r\nc");
     Dies("AddMissingRecords", By::messages, "", [this](auto &editor) {
         TestApp().m_whileUp = [this](const std::string &text) {
             if (text == "Could not reset number of grid rows!")
                 Destroy();
         };
-        m_source->m_answersRows = false;
+        m_source->m_onCall = [this](const std::string &operation) { m_source->m_answersRows = operation != "AppendRow"; };
         editor.OnPaste();
-        m_source->m_answersRows = true;
     }, [](auto &editor) { editor.GotoCell(0, 3); });
     m_operation = "InsertRow";
     Put("a\tb\r\nc\td");
@@ -594,9 +608,9 @@ TEST_F(EditorDestroyedTest, WhereThereIsNoSuchRecord) {
 TEST_F(EditorDestroyedTest, WhileTheMouseIsHeldBeyondTheCells) {
     m_rows = 4000;
     Dies("PumpDragMessages", By::messages, "", [](auto &editor) {
-        PressLeft(editor.SideHeading(), 5, 5);
-        MoveMouse(editor.SideHeading(), 5, 900, MK_LBUTTON);
-        MoveMouse(editor.m_hWnd, 5, 900, MK_LBUTTON);
+        editor.OnSH_LClicked(0, 1);
+        editor.SetCapture();
+        MoveMouse(editor.m_hWnd, 5, 320, MK_LBUTTON);
     });
     Dies("DragScroll", By::messages, "", [](auto &editor) {
         PressLeft(editor.Cells(), 5, 5);
@@ -606,12 +620,18 @@ TEST_F(EditorDestroyedTest, WhileTheMouseIsHeldBeyondTheCells) {
 
 TEST_F(EditorDestroyedTest, WhileAMenuOrASystemBoxIsUp) {
     Dies("ShowPopupMenu", By::messages, "", [](auto &editor) {
+        editor.m_canMenu = true;
         editor.EnablePopupMenu(1);
         editor.GetPopupMenu()->AppendMenu(MF_STRING, 1000, "first");
         ::SendMessageA(editor.Cells(), WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(5, 5));
     });
     Dies("FindDialogText", By::messages, "", [](auto &editor) { editor.FindDialogText("none", nullptr, false, false); });
-    Dies("StartDrag", By::messages, "", [](auto &editor) { editor.StartDrag("moved", nullptr, DROPEFFECT_COPY); });
+    // The system asks the source when something moves.
+    const UINT_PTR mover = ::SetTimer(
+        nullptr, 0, 5, [](HWND, UINT, UINT_PTR, DWORD) { ::mouse_event(MOUSEEVENTF_MOVE, 0, 0, 0, 0); });
+    EndingSource ending([this] { Destroy(); });
+    Dies("StartDrag", By::drag, "", [&](auto &editor) { editor.StartDrag("moved", &ending, DROPEFFECT_COPY); });
+    ::KillTimer(nullptr, mover);
 }
 
 } // namespace

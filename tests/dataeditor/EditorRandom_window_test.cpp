@@ -53,8 +53,7 @@ protected:
         for (unsigned number = 1; number <= count; ++number) {
             run.Next();
             const std::string broken = run.Broken();
-            ASSERT_FALSE(HasFailure()) << "seed " << seed << ", event " << number << ": " << run.Text();
-            ASSERT_EQ("", broken) << "seed " << seed << ", event " << number << ": " << run.Text() << "\nafter\n  "
+            ASSERT_TRUE(broken.empty() && !HasFailure()) << broken << " seed " << seed << ", event " << number << ": " << run.Text() << "\nafter\n  "
                                   << Join({before.begin(), before.end()}, "\n  ");
             before.push_back(run.Text());
             if (before.size() > kTold)

@@ -354,7 +354,8 @@ void EditorRun::Replace() {
     if (m_view.m_shown.empty() || IsReadOnly() || m_source->m_refusesValues)
         return;
     ExpectSettled();
-    m_model.Boundary();
+    if (m_model.Rows() > 0) // else no cell is looked at
+        m_model.Boundary();
     for (int col = 0; col < static_cast<int>(m_view.m_shown.size()); ++col) {
         const int field = m_view.m_shown[static_cast<size_t>(col)];
         for (long row = col == 0 ? m_editor->GetCurrentRow() : 0; row < m_model.Rows(); ++row) {
@@ -365,7 +366,8 @@ void EditorRun::Replace() {
             Put(row, field, text.replace(at, 1, "z"));
         }
     }
-    m_model.Boundary();
+    if (m_model.Rows() > 0)
+        m_model.Boundary();
     WithDialog all([](HWND dialog) { ::SendMessageA(dialog, WM_COMMAND, CYesNoCancelAllDlg::kAll, 0); }, true);
     m_editor->SendMessage(kMsgReplaceNext, reinterpret_cast<WPARAM>(&data), 0);
 }

@@ -62,6 +62,7 @@ public:
     }
 
     bool IsUndone() const { return m_bEditUndone; }
+    bool CanUndoView() const { return m_pCommandList->CanUndo(); }
 
     long m_edits = 0;
 };
@@ -191,6 +192,7 @@ private:
     Open m_open;
     std::string m_path;
     Records m_saved;     // what the file holds
+    bool m_disturbing = false; // something else comes while a question is up
     bool m_gone = false; // the table was closed, or its window destroyed, in the last event
     RunEditor *m_editor = nullptr; // all borrowed
     RefusingSource *m_source = nullptr;

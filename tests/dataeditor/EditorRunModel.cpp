@@ -23,6 +23,10 @@ EditorRun::EditorRun(unsigned seed, const std::string &path, Open open, Recordin
         m_weights += event->weight;
     TestApp().m_whileUp = [this](const std::string &text) {
         const bool question = text.find('?') != std::string::npos;
+        if (m_disturbing) {
+            TestApp().Answer({question ? IDNO : IDOK});
+            return;
+        }
         const int answer = question ? m_answers[m_answered++ % std::size(m_answers)] : IDOK;
         DisturbQuestion(); // which may bring further ones
         TestApp().Answer({answer});
@@ -136,6 +140,8 @@ void EditorRun::ExpectAppendedBeforeEnter() {
 
 // Keys may append empty records at the very end.
 void EditorRun::AdoptAppended(long most) {
+    if (m_gone)
+        return; // and the source with it
     const long more = m_source->GetNumRows() - m_model.Rows();
     if (more > 0 && more <= most && !m_source->m_refusesRows && !IsReadOnly())
         m_model.Append(more);
@@ -240,7 +246,12 @@ std::string EditorRun::BrokenView() {
         frozen += col < m_editor->m_GI.m_lockedCols ? width : 0;
     }
     if (m_editor->m_GI.m_lockedCols != std::min(m_frozen, cols) || m_editor->GetSH_Width() != m_ownWidth + frozen)
-        return "the side heading is out of step with the frozen columns";
+        return "the side heading of " + std::to_string(m_editor->GetSH_Width()) + " is out of step with " +
+               std::to_string(m_editor->m_GI.m_lockedCols) + " frozen columns of " + std::to_string(frozen) + ", not " +
+               std::to_string(m_frozen) + " and " + std::to_string(m_ownWidth);
+    if (const int kept = m_editor->Layout()->GetWorkingCopy().m_nSideHeadingWidth; kept != m_editor->GetSH_Width())
+        return "the layout keeps a side heading of " + std::to_string(kept) + ", not " +
+               std::to_string(m_editor->GetSH_Width());
     return "";
 }
 
@@ -269,6 +280,8 @@ std::string EditorRun::BrokenBox() {
 std::string EditorRun::BrokenState() {
     if (m_answered != m_expected)
         return std::to_string(m_answered) + " questions were asked, not " + std::to_string(m_expected);
+    if (m_editor->CanUndoView() != m_view.CanUndo())
+        return std::string("the history of the view holds ") + (m_view.CanUndo() ? "nothing" : "something");
     const CUGGridInfo &info = m_editor->m_GI;
     if (m_source->m_depth != 0)
         return "a group of the source's undo is open";

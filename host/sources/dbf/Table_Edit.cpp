@@ -23,7 +23,15 @@ Result Table::prepareChange() {
     if (!writable_) {
         return Result::failure("\"" + path_ + "\" may not be written");
     }
-    return ensureOpen();
+    const Row shown = rowCount();
+    if (Result open = ensureOpen(); !open) {
+        return open;
+    }
+    if (rowCount() != shown) {
+        return Result::failure("\"" + path_ + "\" was saved with other records than are shown, and is open again only now. "
+                               "Nothing was changed");
+    }
+    return Result::success();
 }
 
 Result Table::setCellText(Row row, std::size_t column, std::string_view text) {
