@@ -111,6 +111,39 @@ private:
     std::function<void()> m_end;
 };
 
+// Answers every dialog of the thread that is up, whichever window is active.
+class DialogAnswer {
+public:
+    explicit DialogAnswer(WPARAM command, const char *number = nullptr) {
+        ms_command = command;
+        ms_number = number;
+        m_timer = ::SetTimer(nullptr, 0, 5, [](HWND, UINT, UINT_PTR, DWORD) {
+            ::EnumThreadWindows(::GetCurrentThreadId(), Answer, 0);
+        });
+    }
+    ~DialogAnswer() { ::KillTimer(nullptr, m_timer); }
+    DialogAnswer(const DialogAnswer &) = delete;
+    DialogAnswer &operator=(const DialogAnswer &) = delete;
+
+private:
+    static BOOL CALLBACK Answer(HWND window, LPARAM) {
+        char className[16] = "";
+        ::GetClassNameA(window, className, sizeof className);
+        if (std::strcmp(className, "#32770") != 0 || !::IsWindowVisible(window))
+            return TRUE;
+        if (ms_number != nullptr)
+            ::SetDlgItemTextA(window, IDC_RECORDS_COUNT, ms_number);
+        ::SendMessageA(window, WM_COMMAND, ms_command, 0);
+        return FALSE;
+    }
+    static WPARAM ms_command;
+    static const char *ms_number;
+    UINT_PTR m_timer;
+};
+
+WPARAM DialogAnswer::ms_command = 0;
+const char *DialogAnswer::ms_number = nullptr;
+
 class EditorDestroyedTest : public DataEditorTest {
 protected:
     using Step = std::function<void(TestDataEditor &)>;
@@ -373,7 +406,7 @@ TEST_F(EditorDestroyedTest, InWhatIsSaidOfRecords) {
          failing("DeleteRow"));
     Dies("SaveRowsToClipboard", By::box, "Could not save data to be deleted!",
          [](auto &editor) {
-             const WithDialog one([](HWND dialog) { ::SendMessageA(dialog, WM_COMMAND, IDOK, 0); });
+             const DialogAnswer one(IDOK);
              static_cast<CEditorCore &>(editor).OnDeleteRows(true);
          },
          [](auto &editor) { editor.EnableMultiSelect(0); });
@@ -533,7 +566,7 @@ TEST_F(EditorDestroyedTest, WhileItReplaces) {
     const auto replace = [](const char *text) { return [text](TestDataEditor &editor) { Search(editor, kMsgReplaceNext, text); }; };
     // Answers the question with All, so that what comes after it ends the window.
     const auto all = [](TestDataEditor &editor) {
-        const WithDialog answer([](HWND dialog) { ::SendMessageA(dialog, WM_COMMAND, CYesNoCancelAllDlg::kAll, 0); });
+        const DialogAnswer all(CYesNoCancelAllDlg::kAll);
         Search(editor, kMsgReplaceNext, "0.2");
     };
     Dies("OnFindReplace", By::host, "", [](auto &editor) { editor.OnFindReplace(); });
@@ -556,7 +589,7 @@ TEST_F(EditorDestroyedTest, WhileItReplaces) {
 TEST_F(EditorDestroyedTest, InTheSummaryOfAReplacementThatStopped) {
     m_pumping.m_onSummary = [this] { Destroy(); };
     Dies("TellStopped", By::messages, "", [](TestDataEditor &editor) {
-        const WithDialog answer([](HWND dialog) { ::SendMessageA(dialog, WM_COMMAND, CYesNoCancelAllDlg::kAll, 0); });
+        const DialogAnswer all(CYesNoCancelAllDlg::kAll);
         Search(editor, kMsgReplaceNext, "0.");
     }, [this](auto &) {
         m_source->m_onSetCell = [](int, long row) { return row == 2 ? GRID_ERROR : GRID_SUCCESS; };
@@ -592,10 +625,7 @@ TEST_F(EditorDestroyedTest, WhileItFilters) {
 TEST_F(EditorDestroyedTest, WhereThereIsNoSuchRecord) {
     const auto go = [](const char *number) {
         return [number](TestDataEditor &editor) {
-            const WithDialog answer([number](HWND dialog) {
-                ::SetDlgItemTextA(dialog, IDC_RECORDS_COUNT, number);
-                ::SendMessageA(dialog, WM_COMMAND, IDOK, 0);
-            });
+            const DialogAnswer answer(IDOK, number);
             editor.OnGotoRecord();
         };
     };
@@ -619,11 +649,12 @@ TEST_F(EditorDestroyedTest, WhileTheMouseIsHeldBeyondTheCells) {
 }
 
 TEST_F(EditorDestroyedTest, WhileAMenuOrASystemBoxIsUp) {
+    AfxOleInit();
     Dies("ShowPopupMenu", By::messages, "", [](auto &editor) {
         editor.m_canMenu = true;
         editor.EnablePopupMenu(1);
         editor.GetPopupMenu()->AppendMenu(MF_STRING, 1000, "first");
-        ::SendMessageA(editor.Cells(), WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(5, 5));
+        ::SendMessageA(editor.TopHeading(), WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(60, 5));
     });
     Dies("FindDialogText", By::messages, "", [](auto &editor) { editor.FindDialogText("none", nullptr, false, false); });
     // The system asks the source when something moves.
