@@ -30,7 +30,8 @@ class Start(sessions.Session):
 
     def test_a_path_that_is_too_long_is_refused_whole(self):
         os.makedirs(self.folder, exist_ok=True)
-        cut = os.path.join(self.folder, "t" * (259 - len("Z:" + self.folder + "/")))
+        folder = os.path.abspath(self.folder)
+        cut = os.path.join(folder, "t" * (259 - len("Z:" + folder + "/")))
         write_table(cut, [("TEXT", 4)], ["cut "])
         host = self.start(cut + "x" * 40)
         hostdriver.wait_for("the refusal", lambda: [window for window in host.look()
