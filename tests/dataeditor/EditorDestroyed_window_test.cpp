@@ -507,13 +507,13 @@ TEST_F(EditorDestroyedTest, WhileItSaves) {
 TEST_F(EditorDestroyedTest, InWhatIsSaidOfThePaste) {
     const Step paste = [](auto &editor) { editor.OnPaste(); };
     Put(nullptr);
-    Dies("GetClipBoardDataInfo", By::box, "Could not get clipboard data!", paste);
+    Dies("TakeClipboardText", By::box, "Could not get clipboard data!", paste);
     Put("x");
     const HANDLE held = ::CreateEventA(nullptr, TRUE, FALSE, nullptr), release = ::CreateEventA(nullptr, TRUE, FALSE, nullptr);
     HANDLE events[] = {held, release};
     const HANDLE thread = ::CreateThread(nullptr, 0, &HoldClipboard, events, 0, nullptr);
     ::WaitForSingleObject(held, INFINITE);
-    Dies("GetClipBoardDataInfo", By::box, "Could not open clipboard!", paste);
+    Dies("TakeClipboardText", By::box, "Could not open clipboard!", paste);
     ::SetEvent(release);
     ::WaitForSingleObject(thread, INFINITE);
     for (const HANDLE handle : {held, release, thread})
