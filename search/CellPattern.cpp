@@ -15,6 +15,21 @@ namespace Search {
 
 namespace {
 
+// The library counts its steps, but not the characters that a back-reference compares in one step.
+constexpr size_t kMostReferenced = 4096;
+
+// Also where it only looks so.
+bool RefersBack(const std::string &pattern) {
+    for (size_t at = 0; at + 1 < pattern.size(); ++at) {
+        if (pattern[at] != '\\')
+            continue;
+        const char escaped = pattern[++at];
+        if ((escaped >= '1' && escaped <= '9') || escaped == 'g' || escaped == 'k')
+            return true;
+    }
+    return false;
+}
+
 boost::regex::flag_type FlagsFor(bool matchCase) {
     return matchCase ? boost::regex::perl : boost::regex::perl | boost::regex::icase;
 }
@@ -22,9 +37,11 @@ boost::regex::flag_type FlagsFor(bool matchCase) {
 } // namespace
 
 struct CellPattern::Compiled {
-    Compiled(const std::string &text, bool matchCase) : pattern(text), flags(FlagsFor(matchCase)) {}
+    Compiled(const std::string &text, bool matchCase)
+        : pattern(text), mostChars(RefersBack(text) ? kMostReferenced : std::string::npos), flags(FlagsFor(matchCase)) {}
 
     std::string pattern;
+    size_t mostChars; // of a text that is tried
     boost::regex::flag_type flags;
     boost::regex regex;
     bool valid = false;
@@ -48,7 +65,7 @@ CellPattern::CellPattern(const std::string &pattern, bool matchCase)
 CellPattern::~CellPattern() = default;
 
 bool CellPattern::Matches(const char *text, size_t length) const {
-    if (!m_compiled->valid || !m_compiled->screen->MayMatch(text, length))
+    if (!m_compiled->valid || length > m_compiled->mostChars || !m_compiled->screen->MayMatch(text, length))
         return false;
     try {
         return boost::regex_match(text, text + length, m_compiled->match, m_compiled->regex);
@@ -78,7 +95,7 @@ std::string CellPattern::Compiled::WithLastClosed(std::string format, const boos
 bool CellPattern::ReplaceFirst(const std::string &text, const std::string &format,
                                std::string *replaced) const {
     replaced->clear();
-    if (!m_compiled->valid)
+    if (!m_compiled->valid || text.size() > m_compiled->mostChars)
         return false;
     try {
         boost::smatch match;

@@ -19,7 +19,7 @@ public:
     CellPattern &operator=(const CellPattern &) = delete;
 
     // Does the pattern fit the whole text? A match that would take without end is given up and counts as
-    // none.
+    // none, and so does any of a pattern with back-references in a text of over 4,096 characters.
     bool Matches(const char *text, size_t length) const;
     bool Matches(const std::string &text) const { return Matches(text.data(), text.size()); }
     // The text with its first match replaced after the format; false, and no text, where nothing matches.

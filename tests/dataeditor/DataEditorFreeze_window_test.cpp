@@ -146,4 +146,27 @@ TEST_F(DataEditorFreezeTest, TheNextTableDoesNotInheritTheRoomOfFrozenColumns) {
     EXPECT_EQ("0:50", Frozen(editor));
 }
 
+TEST_F(DataEditorFreezeTest, AViewWithFewerColumnsThanAreFrozenIsReopenedAsItWasClosed) {
+    const std::string path = MakeFile("t.dat");
+    TestDataEditor &editor = MakeEditor();
+    const auto open = [&] {
+        Source(4, 2);
+        EXPECT_TRUE(editor.LoadData(path.c_str(), nullptr, kNoFilter, kEditNormal, nullptr));
+    };
+    open();
+    const int own = editor.GetSH_Width();
+    Freeze(editor, "3");
+    Show(editor, {0, 1});
+    open();
+    Show(editor, {0, 1, 2, 3});
+    open();
+    int frozen = 0;
+    for (int col = 0; col < editor.m_GI.m_lockedCols; ++col) {
+        int width = 0;
+        editor.GetColWidth(col, &width);
+        frozen += width;
+    }
+    EXPECT_EQ("2:" + std::to_string(own + frozen), Frozen(editor));
+}
+
 } // namespace

@@ -354,4 +354,26 @@ TEST_F(DataEditorReplaceTest, ACellThatDoesNotMatchOrThatTheFilterLeavesOutIsNot
     EXPECT_EQ("0.0,cat", Column());
 }
 
+TEST_F(DataEditorReplaceTest, AnAnswerIsNotTakenForARecordThatMovedThereMeanwhile) {
+    TestDataEditor &editor = OpenColumn({"cat", "cat"});
+    int asked = 0;
+    WithDialog act(
+        [&](HWND dialog) {
+            if (++asked == 2) {
+                m_source->m_rows.insert(m_source->m_rows.begin(), {"new"});
+                editor.OnDataSourceNotify(0, 1, 0);
+            }
+            ::SendMessageA(dialog, WM_COMMAND,
+                           asked == 1   ? CYesNoCancelAllDlg::kNo
+                           : asked == 2 ? CYesNoCancelAllDlg::kYes
+                                        : IDCANCEL,
+                           0);
+        },
+        true);
+    CFindReplaceData data;
+    data.SetData("cat", "cow", true, false, kSearchDown, Search::kAnywhere, false);
+    ::SendMessageA(editor.m_hWnd, kMsgReplaceNext, reinterpret_cast<WPARAM>(&data), 0);
+    EXPECT_EQ("new,cat,cat", Column());
+}
+
 } // namespace

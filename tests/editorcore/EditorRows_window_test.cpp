@@ -306,4 +306,25 @@ TEST_F(EditorRowsTest, AnAppendWithoutASourceIsSaidAndTheStepsGoOn) {
     EXPECT_EQ("1051(0,0)", m_host.TakeMessages());
 }
 
+TEST_F(EditorRowsTest, RowsWhoseTextsWereStoppedOnTheirWayToTheClipboardStay) {
+    TestEditor &editor = Open(2, 5);
+    editor.SelectRows(1, 3);
+    m_service.m_abort = 1;
+    editor.OnDeleteRows(true);
+    EXPECT_EQ(5, m_source->GetNumRows());
+    EXPECT_EQ(0, m_service.m_waits);
+}
+
+TEST_F(EditorRowsTest, RecordsAreInsertedWhereTheirDialogCameUp) {
+    TestEditor &editor = Open(2, 5);
+    editor.GotoCell(0, 1);
+    WithDialog act([&](HWND dialog) {
+        editor.GotoCell(0, 3);
+        Answer(dialog, "1");
+    });
+    editor.OnInsertRows();
+    EXPECT_EQ("", m_source->Text(0, 1));
+    EXPECT_EQ("0.1", m_source->Text(0, 2));
+}
+
 } // namespace

@@ -240,6 +240,19 @@ TEST_F(SharedMenuTreeTest, NodesShareTheListOfTheNextLevel) {
     EXPECT_EQ(m_root.GetChild(0)->GetParent(), nullptr);
 }
 
+TEST_F(SharedMenuTreeTest, MorePathsThanMemoryHoldsAreNotGathered) {
+    CMenuList *below = nullptr;
+    int index = -1;
+    for (int level = 0; level < 60; ++level) {
+        below = List({"A", "B"}, below, index);
+        index = m_root.AddSharedList(below);
+    }
+    m_root.SetSharedChildren(below, index);
+    CArray<CStringArrayEx> paths;
+    EXPECT_THROW(m_root.CollectPaths(CStringArrayEx(), paths), CMemoryException *);
+    EXPECT_EQ(0, paths.GetSize());
+}
+
 TEST_F(SharedMenuTreeTest, ANodeHasTheWidthsOfItsListAndTheRootThoseOfAll) {
     Build();
     EXPECT_EQ(Widths(*m_root.GetChild(0)), "3,2,5");

@@ -38,6 +38,15 @@ TEST(CellPattern, BacktrackingWithoutEndIsGivenUpAndNoMatch) {
     }
 }
 
+TEST(CellPattern, BackReferencesAreTriedInTextsOfBoundedLength) {
+    const Search::CellPattern twice("(a+)\\1b", true);
+    EXPECT_TRUE(twice.Matches(std::string(4094, 'a') + "b"));
+    EXPECT_FALSE(twice.Matches(std::string(4096, 'a') + "b"));
+    std::string replaced;
+    EXPECT_FALSE(twice.ReplaceFirst(std::string(4096, 'a') + "b", "x", &replaced));
+    EXPECT_TRUE(Search::CellPattern("(a+)\\\\?b", true).Matches(std::string(5000, 'a') + "b"));
+}
+
 TEST(CellPattern, EndlessPatternsWithoutAnEndInTheTextAreToldBeforehand) {
     const CellPattern pattern("(a|aa)*(a|aa)*(a|aa)*(a|aa)*(a|aa)*b", true);
     EXPECT_FALSE(pattern.Matches(std::string(4000, 'a') + "c"));
