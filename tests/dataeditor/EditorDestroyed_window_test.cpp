@@ -4,6 +4,7 @@
 #include "DataEditorTest.h"
 
 #include "AllocationFault.h"
+#include "TestClipboard.h"
 #include "dataeditor/DataEditorDlgs.h"
 #include "resources/ResourceIds.h"
 #include "search/PatternText.h"
@@ -313,26 +314,7 @@ protected:
         editor.StartEdit();
         TypeText(editor.Edit(), text);
     }
-    static void Put(const char *text) {
-        ::OpenClipboard(nullptr);
-        ::EmptyClipboard();
-        if (text != nullptr) {
-            const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, std::strlen(text) + 1);
-            std::strcpy(static_cast<char *>(::GlobalLock(memory)), text);
-            ::GlobalUnlock(memory);
-            ::SetClipboardData(CF_TEXT, memory);
-        }
-        ::CloseClipboard();
-    }
-    // As another program would, for as long as the second of two events is not set; the first tells that it does.
-    static DWORD WINAPI HoldClipboard(void *both) {
-        const HANDLE *events = static_cast<HANDLE *>(both);
-        ::OpenClipboard(nullptr);
-        ::SetEvent(events[0]);
-        ::WaitForSingleObject(events[1], INFINITE);
-        ::CloseClipboard();
-        return 0;
-    }
+    static void Put(const char *text) { SetClipboardText(nullptr, text); }
     static void Search(TestDataEditor &editor, UINT message, const char *find, int direction = kSearchDown) {
         CFindReplaceData data;
         data.SetData(find, "cow", true, false, direction, Search::kAnywhere, false);
@@ -509,15 +491,10 @@ TEST_F(EditorDestroyedTest, InWhatIsSaidOfThePaste) {
     Put(nullptr);
     Dies("TakeClipboardText", By::box, "Could not get clipboard data!", paste);
     Put("x");
-    const HANDLE held = ::CreateEventA(nullptr, TRUE, FALSE, nullptr), release = ::CreateEventA(nullptr, TRUE, FALSE, nullptr);
-    HANDLE events[] = {held, release};
-    const HANDLE thread = ::CreateThread(nullptr, 0, &HoldClipboard, events, 0, nullptr);
-    ::WaitForSingleObject(held, INFINITE);
-    Dies("TakeClipboardText", By::box, "Could not open clipboard!", paste);
-    ::SetEvent(release);
-    ::WaitForSingleObject(thread, INFINITE);
-    for (const HANDLE handle : {held, release, thread})
-        ::CloseHandle(handle);
+    {
+        const HeldClipboard held;
+        Dies("TakeClipboardText", By::box, "Could not open clipboard!", paste);
+    }
     Put("a\tb\tc");
     Dies("PlacePaste", By::box, "The data to be pasted has more columns per row", paste);
     Put("a\r\nb\r\nc");

@@ -1,6 +1,8 @@
 // Copying, cutting and pasting blocks of cells over the real clipboard.
 #include "EditorWindowTest.h"
 
+#include "TestClipboard.h"
+
 #include <cstring>
 
 namespace {
@@ -8,17 +10,7 @@ namespace {
 class EditorClipboardTest : public EditorWindowTest {
 protected:
     // As another program leaves text there; null leaves none.
-    void SetClipboard(const char *text) {
-        ASSERT_TRUE(::OpenClipboard(m_host.m_hWnd));
-        ::EmptyClipboard();
-        if (text != nullptr) {
-            const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, std::strlen(text) + 1);
-            std::strcpy(static_cast<char *>(::GlobalLock(memory)), text);
-            ::GlobalUnlock(memory);
-            ::SetClipboardData(CF_TEXT, memory);
-        }
-        ::CloseClipboard();
-    }
+    void SetClipboard(const char *text) { SetClipboardText(m_host.m_hWnd, text); }
     std::string Clipboard() {
         std::string text = "none";
         if (!::OpenClipboard(m_host.m_hWnd))
@@ -207,28 +199,13 @@ TEST_F(EditorClipboardTest, AClipboardWithoutTextIsSaid) {
 TEST_F(EditorClipboardTest, AClipboardThatAnotherHoldsOpenIsSaid) {
     TestEditor &editor = Open(2, 2);
     SetClipboard("x");
-    // Held by another thread, as another program would.
-    const HANDLE held = ::CreateEventA(nullptr, TRUE, FALSE, nullptr), release = ::CreateEventA(nullptr, TRUE, FALSE, nullptr);
-    HANDLE events[] = {held, release};
-    const HANDLE thread = ::CreateThread(
-        nullptr, 0,
-        [](void *both) -> DWORD {
-            const HANDLE *pair = static_cast<HANDLE *>(both);
-            ::OpenClipboard(nullptr);
-            ::SetEvent(pair[0]);
-            ::WaitForSingleObject(pair[1], INFINITE);
-            ::CloseClipboard();
-            return 0;
-        },
-        events, 0, nullptr);
-    ::WaitForSingleObject(held, INFINITE);
-    editor.OnPaste();
-    EXPECT_EQ("Could not open clipboard!|16", TestApp().TakeBoxes());
-    CString text("copied");
-    EXPECT_EQ(GRID_ERROR, editor.CopyToClipBoard(&text));
-    ::SetEvent(release);
-    ::WaitForSingleObject(thread, INFINITE);
-    ::CloseHandle(thread);
+    {
+        const HeldClipboard held;
+        editor.OnPaste();
+        EXPECT_EQ("Could not open clipboard!|16", TestApp().TakeBoxes());
+        CString text("copied");
+        EXPECT_EQ(GRID_ERROR, editor.CopyToClipBoard(&text));
+    }
     EXPECT_EQ("x", Clipboard());
 }
 
