@@ -365,34 +365,4 @@ TEST_F(DataEditorFrameTest, ANameThatWasAskedForOneTableIsNotTakenForAnother) {
     EXPECT_EQ(std::string::npos, m_log.Take().find("SaveAs"));
 }
 
-TEST_F(DataEditorFrameTest, ALayoutThatCannotBeDeletedLeavesEachColumnWithTheFieldOfItsHeading) {
-    const std::string path = MakeFile("t.dat");
-    TestDataEditor &editor = MakeEditor();
-    m_source = Source(3, 2);
-    ASSERT_TRUE(editor.LoadData(path.c_str(), nullptr, kNoFilter, kEditNormal, nullptr));
-    CUIntArray order;
-    for (UINT field : {2u, 0u, 1u})
-        order.Add(field);
-    editor.ReOrderCols(order);
-    CString layout(path.c_str());
-    CEditorCore::GetLayoutFileName(layout);
-    const HANDLE held = ::CreateFileA(layout, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(INVALID_HANDLE_VALUE, held);
-    editor.CloseDataSource(false);
-    m_source = Source(3, 2);
-    ASSERT_TRUE(editor.LoadData(path.c_str(), nullptr, kNoFilter, kEditNormal, nullptr));
-    ASSERT_EQ(2, editor.GetDataSrcField(0));
-    m_source->m_fields = {"F0", "F1", "F2", "F3", "F4"};
-    for (auto &row : m_source->m_rows)
-        row.resize(5);
-    editor.ResetFileView(true);
-    ::CloseHandle(held);
-    for (int col = 0; col < editor.GetNumberCols(); ++col) {
-        CString heading;
-        editor.GetColName(col, heading);
-        EXPECT_EQ("F" + std::to_string(editor.GetDataColNumber(col)), heading.GetString());
-        EXPECT_EQ(editor.GetDataSrcField(col), editor.GetDataColNumber(col));
-    }
-}
-
 } // namespace

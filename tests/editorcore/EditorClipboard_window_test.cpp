@@ -444,20 +444,4 @@ TEST_F(EditorClipboardTest, RowsOfTheGridThatCannotBeResetEndThePasteWithAMessag
     source->m_answersRows = true;
 }
 
-TEST_F(EditorClipboardTest, ATextThatNothingEndsIsReadNoFurtherThanItsBlock) {
-    TestEditor &editor = Open(2, 2);
-    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, 3);
-    std::memcpy(::GlobalLock(memory), "a\tb", 3);
-    const size_t size = ::GlobalSize(memory);
-    ::GlobalUnlock(memory);
-    ASSERT_TRUE(::OpenClipboard(m_host.m_hWnd));
-    ::EmptyClipboard();
-    ::SetClipboardData(CF_TEXT, memory);
-    ::CloseClipboard();
-    CString text;
-    ASSERT_EQ(GRID_SUCCESS, editor.CopyFromClipBoard(&text));
-    EXPECT_LE(static_cast<size_t>(text.GetLength()), size);
-    EXPECT_EQ(0, std::strncmp("a\tb", text, 3));
-}
-
 } // namespace
