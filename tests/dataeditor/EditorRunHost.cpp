@@ -212,7 +212,7 @@ void EditorRun::SaveUnderAnotherName() {
         *filtered = false;
         return true;
     };
-    ExpectFinish();
+    ExpectSettled(); // before the prompt
     if (!CEditorCore::FileExists(name) || NextAnswer() == IDYES)
         m_model.ForgetHistory();
     static_cast<COrvaneEditor *>(m_editor)->OnSaveAs();
