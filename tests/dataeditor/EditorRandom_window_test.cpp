@@ -11,7 +11,7 @@
 namespace {
 
 constexpr unsigned kSeed = 4711;
-constexpr unsigned kCount = 200000;
+constexpr unsigned kCount = 100000;
 constexpr size_t kTold = 12; // events of a failure
 
 unsigned Setting(const char *name, unsigned otherwise) {
