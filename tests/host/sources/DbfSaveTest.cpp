@@ -250,3 +250,28 @@ TEST(DbfSaveFailure, KeepsWhatWasWrittenWhenTheOldFileIsLost) {
     EXPECT_EQ(shown(*open(files, "t.dbf.tmp1")).substr(0, 7), "Changed");
     EXPECT_EQ(files.files["t.dbf"], people());
 }
+
+// What is shown then are the records from before, and a value would go into another one.
+TEST(DbfSaveFailure, TakesNoChangeByTheRowsOfBeforeWhenOtherRecordsWereSaved) {
+    constexpr int kMostOperations = 40;
+    for (int operation = 1; operation < kMostOperations; ++operation) {
+        MemoryFiles files;
+        const auto table =
+            openBytes(files, header(0x03, 3, 3, descriptor("A", 'C', 2)) + " aa bb cc");
+        files.failAt(operation);
+        const dbf::Result saved = table->saveAs("u.dbf", [](Table::Row row) { return row > 0; });
+        files.failAt(0);
+        if (saved.message.find("is saved, but") == std::string::npos) {
+            ASSERT_FALSE(saved) << "it never came up";
+            continue;
+        }
+        const dbf::Result first = table->setCellText(1, 0, "x");
+        EXPECT_FALSE(first);
+        EXPECT_NE(first.message.find("u.dbf"), std::string::npos) << first.message;
+        EXPECT_EQ(table->rowCount(), 2u);
+        EXPECT_FALSE(table->canUndo());
+        EXPECT_TRUE(table->setCellText(1, 0, "x"));
+        return;
+    }
+    FAIL() << "it never came up";
+}
