@@ -174,9 +174,9 @@ bool CFindDlg::CanBeSearched() {
 void CFindDlg::OnOK() {
     CWnd *editor = m_target();
     // Beside another question, which disables the frame, the table is not to be touched.
-    if (m_running || editor == nullptr || !AfxGetMainWnd()->IsWindowEnabled() || GetDlgItem(IDC_FIND_TEXT)->GetWindowTextLength() == 0)
+    if (m_running || editor == nullptr || !AfxGetMainWnd()->IsWindowEnabled())
         return;
-    if (!CanBeSearched())
+    if (GetDlgItem(IDC_FIND_TEXT)->GetWindowTextLength() == 0 || !CanBeSearched())
         return;
     Store();
     m_data.SetData(TextOf(GetDlgItem(IDC_FIND_TEXT)), TextOf(GetDlgItem(IDC_REPLACE_TEXT)),
