@@ -176,7 +176,7 @@ bool CEditorCore::SaveRowsToClipboard(long firstRow, long lastRow, CWaitCursorSc
         return false;
     }
     CString text;
-    if (!CreateSelectedString(text, 0, false) && GetSafeHwnd() != nullptr)
+    if (!CreateSelectedString(text, 0, false))
         return false; // stopped: what is not on the clipboard is not deleted
     CopyToClipBoard(&text);
     return true;

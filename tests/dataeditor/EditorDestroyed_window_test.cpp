@@ -254,7 +254,8 @@ protected:
         EXPECT_EQ(said, m_boxes.substr(0, said.size()));
         EXPECT_EQ("", TestApp().TakeBoxes()) << "said to nobody";
         EXPECT_EQ(0, EditorFrame::ms_live) << "the frame goes when its command is done";
-        EXPECT_NE(std::string::npos, m_log.Take().find("src.delete"));
+        m_calls = m_log.Take();
+        EXPECT_NE(std::string::npos, m_calls.find("src.delete"));
         EXPECT_GE(waits + m_staysRaised, m_pumping.m_waits);
         if (::IsWindow(window))
             ::DestroyWindow(window);
@@ -329,6 +330,7 @@ protected:
     std::string m_operation; // of the source, for By::source
     int m_staysRaised = 0;
     HWND m_doomed = nullptr, m_pumped = nullptr;
+    std::string m_calls; // of the last scene
     std::string m_boxes; // shown until the end of the window
     static EditorDestroyedTest *ms_test;
 };
@@ -517,6 +519,9 @@ TEST_F(EditorDestroyedTest, InWhatIsSaidOfThePaste) {
         m_source->m_onCall = [this](const std::string &operation) { m_source->m_answersRows = operation != "AppendRow"; };
         editor.OnPaste();
     }, [](auto &editor) { editor.GotoCell(0, 3); });
+    Dies("AbortOperation", By::host, "", [](auto &editor) { static_cast<CEditorCore &>(editor).OnDeleteRows(true); },
+         [](auto &editor) { editor.SelectRange(0, 0, 1, 3); });
+    EXPECT_EQ(std::string::npos, m_calls.find("DeleteRow")) << m_calls;
     m_operation = "InsertRow";
     Put("a\tb\r\nc\td");
     Dies("InsertRecords", By::source, "", paste);
