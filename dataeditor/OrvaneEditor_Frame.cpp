@@ -3,6 +3,7 @@
 
 #include "editorcore/MemoryGuard.h"
 #include "editorcore/TableWatch.h"
+#include "grid/PaintingScope.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -143,6 +144,11 @@ void COrvaneEditor::ResetFileView(bool full) {
         GetLayoutFileName(layout);
         if (FileExists(layout))
             ::DeleteFileA(layout);
+        // Where the file could not be deleted and does not fit, the columns keep the fields that they show: these then
+        // have to be their own.
+        CPaintingScope quiet(this);
+        for (int col = 0; col < GetNumberCols(); ++col)
+            SetColTranslation(col, col);
         SetGridLayout();
     }
     OnFileModify();

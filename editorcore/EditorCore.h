@@ -398,7 +398,7 @@ private:
     void AutoScrollRows(int y, int height);
     bool AutoScrollCols(int x, int width);
     void SelectToCurrent();
-    void BuildDefaultLayout();
+    void BuildDefaultLayout(bool setTranslations);
     void SetGridInitColWidths();
     int HeadingMinimumWidth(int col, int maxCharWidth);
     void VarifyEdit(CWnd *edit, int col, long row);

@@ -70,17 +70,17 @@ void CEditorCore::SetGridLayout() {
     NoteChange(&TableState::columns);
     CPaintingScope quiet(this);
     if (!Serialize(false)) {
-        BuildDefaultLayout();
+        BuildDefaultLayout(true);
     } else if (!m_pLayout->ApplyToGrid(source)) {
         const CWaitCursorScope waiting(ms_pAppInterface);
-        BuildDefaultLayout();
+        BuildDefaultLayout(false);
     }
     m_bLayoutValid = true;
     if (source->GetNumRows() == 0)
         SetNumberRows(0, 1);
 }
 
-void CEditorCore::BuildDefaultLayout() {
+void CEditorCore::BuildDefaultLayout(bool setTranslations) {
     CUGDataSource *source = GetCurrentDataSrc(false);
     {
         CPaintingScope quiet(this);
@@ -89,9 +89,10 @@ void CEditorCore::BuildDefaultLayout() {
         CUGCtrl::SetNumberRows(std::max(RowsOfSource(source), 0L), 1);
         SetGridInitColWidths();
         SetRowHeight(0, ScaledRowHeight(kDefaultRowHeightPx));
-        // Also where a layout was read that does not fit: the columns that were there keep theirs.
-        for (int col = 0; col < GetNumberCols(); ++col)
-            SetColTranslation(col, col);
+        if (setTranslations) {
+            for (int col = 0; col < GetNumberCols(); ++col)
+                SetColTranslation(col, col);
+        }
     }
     m_pLayout->CaptureFromGrid();
 }
