@@ -5,7 +5,6 @@ namespace {
 
 class EditorEditingTest : public EditorWindowTest {
 protected:
-    std::string Box(TestEditor &editor) { return editor.Edit() ? WindowText(editor.Edit()) : "closed"; }
     void Type(TestEditor &editor, const char *text) {
         editor.StartEdit();
         TypeText(editor.Edit(), text);

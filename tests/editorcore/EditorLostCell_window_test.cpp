@@ -8,16 +8,9 @@ namespace {
 
 class EditorLostCellTest : public EditorWindowTest {
 protected:
-    static std::string Box(TestEditor &editor) { return editor.Edit() ? WindowText(editor.Edit()) : "closed"; }
     static void Type(TestEditor &editor, const char *text) {
         editor.StartEdit();
         TypeText(editor.Edit(), text);
-    }
-    static CPersistUIntArray Fields(std::initializer_list<UINT> fields) {
-        CPersistUIntArray all;
-        for (UINT field : fields)
-            all.Add(field);
-        return all;
     }
     std::string Records() const {
         std::string all;

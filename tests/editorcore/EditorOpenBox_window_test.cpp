@@ -11,7 +11,6 @@ namespace {
 
 class EditorOpenBoxTest : public EditorWindowTest {
 protected:
-    static std::string Box(TestEditor &editor) { return editor.Edit() ? WindowText(editor.Edit()) : "closed"; }
     static void Key(TestEditor &editor, UINT key) {
         ::SendMessageA(editor.Edit() != nullptr ? editor.Edit() : editor.Cells(), WM_KEYDOWN, key, 1);
     }
@@ -19,12 +18,6 @@ protected:
         if (editor.Edit() == nullptr)
             editor.StartEdit();
         TypeText(editor.Edit(), text);
-    }
-    static CPersistUIntArray Fields(std::initializer_list<UINT> fields) {
-        CPersistUIntArray all;
-        for (UINT field : fields)
-            all.Add(field);
-        return all;
     }
     // Every record of the source, fields apart by commas and records by slashes.
     static std::string Records(CUGDataSource *source) {

@@ -17,12 +17,6 @@ protected:
     std::string Headings(TestEditor &editor) {
         return std::to_string(editor.GetSH_Width()) + "x" + std::to_string(editor.GetTH_Height());
     }
-    static CPersistUIntArray Fields(std::initializer_list<UINT> fields) {
-        CPersistUIntArray all;
-        for (UINT field : fields)
-            all.Add(field);
-        return all;
-    }
     // Makes all columns as wide.
     void SetWidths(TestEditor &editor, int width) {
         for (int col = 0; col < editor.GetNumberCols(); ++col) {

@@ -96,6 +96,14 @@ protected:
     std::string MakeFile(const char *name, const std::string &content = "data");
     std::string PathOf(const char *name) const { return m_folder + "\\" + name; }
     static std::string Content(const std::string &path);
+    // The text of the edit box.
+    static std::string Box(TestEditor &editor) { return editor.Edit() ? WindowText(editor.Edit()) : "closed"; }
+    static CPersistUIntArray Fields(std::initializer_list<UINT> fields) {
+        CPersistUIntArray all;
+        for (UINT field : fields)
+            all.Add(field);
+        return all;
+    }
 
     CallLog m_log;
     RecordingHost m_service{&m_log};
